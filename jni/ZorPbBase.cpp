@@ -1,0 +1,6 @@
+#include "ZorPbBase.h"
+
+ZorPbBase::~ZorPbBase() {
+  delete msg_;
+  msg_ = nullptr;
+}
