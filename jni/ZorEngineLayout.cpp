@@ -1,0 +1,71 @@
+// Holds the engine structs to the layout that the engine was compiled with: every size and every
+// member's offset and width, in bytes. Nothing here reaches the library's code.
+#include <cstddef>
+
+#include "ZorEngineStructs.h"
+
+namespace {
+
+constexpr std::size_t kPointer = sizeof(void*);
+static_assert(kPointer == 4 || kPointer == 8, "the layout is known for these pointers only");
+
+#define ZOR_AT(Struct, member, offset, bytes)                                         \
+  static_assert(offsetof(Struct, member) == (offset), #Struct "::" #member " moved"); \
+  static_assert(sizeof(Struct::member) == (bytes), #Struct "::" #member " changed width")
+#define ZOR_SIZE(Struct, bytes) static_assert(sizeof(Struct) == (bytes), #Struct " changed size")
+
+ZOR_AT(_zorImm3dApiCtrl, enable, 0, 4);
+ZOR_AT(_zorImm3dApiCtrl, mode, 4, 4);
+ZOR_AT(_zorImm3dApiCtrl, hp_enable, 8, 4);
+ZOR_AT(_zorImm3dApiCtrl, hi_bit_rate, 12, 4);
+ZOR_AT(_zorImm3dApiCtrl, input_gain, 16, 2);
+ZOR_AT(_zorImm3dApiCtrl, output_gain, 18, 2);
+ZOR_AT(_zorImm3dApiCtrl, bypass_gain, 20, 2);
+ZOR_AT(_zorImm3dApiCtrl, space_level, 22, 2);
+ZOR_AT(_zorImm3dApiCtrl, center_level, 24, 2);
+ZOR_SIZE(_zorImm3dApiCtrl, 28);
+
+ZOR_AT(_zorExpanseApiCtrl, enable, 0, 4);
+ZOR_AT(_zorExpanseApiCtrl, hs_hpf_enable, 4, 4);
+ZOR_AT(_zorExpanseApiCtrl, input_gain, 8, 2);
+ZOR_AT(_zorExpanseApiCtrl, bypass_gain, 10, 2);
+ZOR_AT(_zorExpanseApiCtrl, center_boost_level, 12, 2);
+ZOR_AT(_zorExpanseApiCtrl, speaker_separation_level, 14, 2);
+ZOR_SIZE(_zorExpanseApiCtrl, 16);
+
+ZOR_AT(_zorDeepApiCtrl, enable, 0, 4);
+ZOR_AT(_zorDeepApiCtrl, mode, 4, 4);
+ZOR_AT(_zorDeepApiCtrl, li_enable, 8, 4);
+ZOR_AT(_zorDeepApiCtrl, sa_enable, 12, 4);
+ZOR_AT(_zorDeepApiCtrl, speaker_size, 16, 4);
+ZOR_AT(_zorDeepApiCtrl, analysis_size, 20, 4);
+ZOR_AT(_zorDeepApiCtrl, output_option, 24, 4);
+ZOR_AT(_zorDeepApiCtrl, input_gain, 28, 2);
+ZOR_AT(_zorDeepApiCtrl, output_gain, 30, 2);
+ZOR_AT(_zorDeepApiCtrl, bypass_gain, 32, 2);
+ZOR_AT(_zorDeepApiCtrl, level, 34, 2);
+ZOR_AT(_zorDeepApiCtrl, comp_level, 36, 2);
+ZOR_AT(_zorDeepApiCtrl, ref_gain, 38, 2);
+ZOR_AT(_zorDeepApiCtrl, bass_clarity_level, 40, 2);
+ZOR_SIZE(_zorDeepApiCtrl, 44);
+
+ZOR_AT(_zorVantixApiCtrl, imm3d, 0, 28);
+ZOR_AT(_zorVantixApiCtrl, expanse, 28, 16);
+ZOR_AT(_zorVantixApiCtrl, deep, 44, 44);
+ZOR_AT(_zorVantixApiCtrl, enable, 88, 4);
+ZOR_AT(_zorVantixApiCtrl, enhance_mode, 92, 4);
+ZOR_AT(_zorVantixApiCtrl, crossover_enable, 96, 4);
+ZOR_AT(_zorVantixApiCtrl, hpf_enable, 100, 4);
+ZOR_AT(_zorVantixApiCtrl, def_enable, 104, 4);
+ZOR_AT(_zorVantixApiCtrl, focus_enable, 108, 4);
+ZOR_AT(_zorVantixApiCtrl, input_gain, 112, 2);
+ZOR_AT(_zorVantixApiCtrl, output_gain, 114, 2);
+ZOR_AT(_zorVantixApiCtrl, bypass_gain, 116, 2);
+ZOR_AT(_zorVantixApiCtrl, def_level, 118, 2);
+ZOR_AT(_zorVantixApiCtrl, focus_level, 120, 2);
+ZOR_SIZE(_zorVantixApiCtrl, 124);
+
+#undef ZOR_SIZE
+#undef ZOR_AT
+
+}  // namespace

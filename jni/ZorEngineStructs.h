@@ -1,0 +1,68 @@
+// The plain structs that the audio engine takes: its binary interface, valid as C and as C++.
+//
+// Member order and widths are the engine's and must not change; ZorEngineLayout.cpp holds every
+// size and offset to account. All values are signed fixed-width integers in the machine's own byte
+// order. The structs carry no element counts: every array is full-length by definition. Units,
+// ranges and fixed-point formats are the engine's.
+#pragma once
+
+#include <stdint.h>
+
+// 3-D spatial enhancement controls.
+struct _zorImm3dApiCtrl {
+  int32_t enable;
+  int32_t mode;
+  int32_t hp_enable;
+  int32_t hi_bit_rate;
+  int16_t input_gain;
+  int16_t output_gain;
+  int16_t bypass_gain;
+  int16_t space_level;
+  int16_t center_level;
+};
+
+// Wide-surround controls.
+struct _zorExpanseApiCtrl {
+  int32_t enable;
+  int32_t hs_hpf_enable;
+  int16_t input_gain;
+  int16_t bypass_gain;
+  int16_t center_boost_level;
+  int16_t speaker_separation_level;
+};
+
+// Bass enhancement controls.
+struct _zorDeepApiCtrl {
+  int32_t enable;
+  int32_t mode;
+  int32_t li_enable;
+  int32_t sa_enable;
+  int32_t speaker_size;
+  int32_t analysis_size;
+  int32_t output_option;
+  int16_t input_gain;
+  int16_t output_gain;
+  int16_t bypass_gain;
+  int16_t level;
+  int16_t comp_level;
+  int16_t ref_gain;
+  int16_t bass_clarity_level;
+};
+
+// Speaker virtualizer: the three technologies that it bundles, then its own controls.
+struct _zorVantixApiCtrl {
+  struct _zorImm3dApiCtrl imm3d;
+  struct _zorExpanseApiCtrl expanse;
+  struct _zorDeepApiCtrl deep;
+  int32_t enable;
+  int32_t enhance_mode;
+  int32_t crossover_enable;
+  int32_t hpf_enable;
+  int32_t def_enable;
+  int32_t focus_enable;
+  int16_t input_gain;
+  int16_t output_gain;
+  int16_t bypass_gain;
+  int16_t def_level;
+  int16_t focus_level;
+};

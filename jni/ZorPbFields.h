@@ -1,0 +1,140 @@
+// What each wrapper converts: one list a class, one line a field, in the order of the struct. The
+// conversions, the dumps and the proof that no member was forgotten all derive from these lists;
+// adding a field is one line here. Private to the library and its tools.
+#pragma once
+
+#include "ZorEngineStructs.h"
+#include "ZorPbFieldKinds.h"
+#include "techVantix.pb.h"
+
+// Inside a list, Message and Struct name its two sides and visit is what each field is handed to.
+// The lists are the only place where a field's name, accessors and member come from one mention.
+#define ZOR_FIELD(Kind, field) \
+  visit(Kind<&Message::field, &Message::set_##field, &Struct::field>{#field})
+#define ZOR_LIST_OF(Kind, field, member) \
+  visit(Kind<Message, &Message::field, &Message::mutable_##field, &Struct::member>{#field})
+
+#define ZOR_SCALAR(field) ZOR_FIELD(Scalar, field)
+#define ZOR_UNLOADED_SCALAR(field) ZOR_FIELD(UnloadedScalar, field)
+#define ZOR_LIST(field) ZOR_LIST_OF(List, field, field)
+#define ZOR_OPEN_LIST(field) ZOR_LIST_OF(OpenList, field, field)
+#define ZOR_OPEN_LIST_AT(field, member) ZOR_LIST_OF(OpenList, field, member)
+#define ZOR_UNBOUNDED_LIST(field) ZOR_LIST_OF(UnboundedList, field, field)
+#define ZOR_BORROWED_STRING(field) \
+  visit(BorrowedString<&Message::field, &Message::mutable_##field, &Struct::field>{#field})
+#define ZOR_NESTED(member) visit(Nested<&Struct::member>{#member})
+#define ZOR_RESERVED(member) visit(Reserved<&Struct::member>{#member})
+
+namespace zorpb {
+
+// True when the list names every member of its struct: the bytes that it names, rounded up to the
+// struct's alignment, are the struct's size.
+template <class Fields>
+constexpr bool namesEveryMember() {
+  using Struct = typename Fields::Struct;
+  std::size_t bytes = 0;
+  Fields::each([&bytes](auto field) { bytes += sizeof(typename decltype(field)::Member); });
+  return (bytes + alignof(Struct) - 1) / alignof(Struct) * alignof(Struct) == sizeof(Struct);
+}
+
+struct TechImm3dFields {
+  using Message = com::zor::tech::Imm3d;
+  using Struct = _zorImm3dApiCtrl;
+
+  template <class Visitor>
+  static constexpr void each(Visitor&& visit) {
+    ZOR_SCALAR(enable);
+    ZOR_SCALAR(mode);
+    ZOR_SCALAR(hp_enable);
+    ZOR_SCALAR(hi_bit_rate);
+    ZOR_SCALAR(input_gain);
+    ZOR_SCALAR(output_gain);
+    ZOR_SCALAR(bypass_gain);
+    ZOR_SCALAR(space_level);
+    ZOR_SCALAR(center_level);
+  }
+};
+static_assert(namesEveryMember<TechImm3dFields>());
+
+struct TechExpanseFields {
+  using Message = com::zor::tech::Expanse;
+  using Struct = _zorExpanseApiCtrl;
+
+  template <class Visitor>
+  static constexpr void each(Visitor&& visit) {
+    ZOR_SCALAR(enable);
+    ZOR_SCALAR(hs_hpf_enable);
+    ZOR_SCALAR(input_gain);
+    ZOR_SCALAR(bypass_gain);
+    ZOR_SCALAR(center_boost_level);
+    ZOR_SCALAR(speaker_separation_level);
+  }
+};
+static_assert(namesEveryMember<TechExpanseFields>());
+
+struct TechDeepFields {
+  using Message = com::zor::tech::Deep;
+  using Struct = _zorDeepApiCtrl;
+
+  template <class Visitor>
+  static constexpr void each(Visitor&& visit) {
+    ZOR_SCALAR(enable);
+    ZOR_SCALAR(mode);
+    ZOR_SCALAR(li_enable);
+    ZOR_SCALAR(sa_enable);
+    ZOR_SCALAR(speaker_size);
+    ZOR_SCALAR(analysis_size);
+    ZOR_SCALAR(output_option);
+    ZOR_SCALAR(input_gain);
+    ZOR_SCALAR(output_gain);
+    ZOR_SCALAR(bypass_gain);
+    ZOR_SCALAR(level);
+    ZOR_SCALAR(comp_level);
+    ZOR_SCALAR(ref_gain);
+    ZOR_SCALAR(bass_clarity_level);
+  }
+};
+static_assert(namesEveryMember<TechDeepFields>());
+
+struct TechVantixFields {
+  using Message = com::zor::tech::Vantix;
+  using Struct = _zorVantixApiCtrl;
+
+  template <class Visitor>
+  static constexpr void controls(Visitor&& visit) {
+    ZOR_SCALAR(enable);
+    ZOR_SCALAR(enhance_mode);
+    ZOR_SCALAR(crossover_enable);
+    ZOR_SCALAR(hpf_enable);
+    ZOR_SCALAR(def_enable);
+    ZOR_SCALAR(focus_enable);
+    ZOR_SCALAR(input_gain);
+    ZOR_SCALAR(output_gain);
+    ZOR_SCALAR(bypass_gain);
+    ZOR_SCALAR(def_level);
+    ZOR_SCALAR(focus_level);
+  }
+
+  template <class Visitor>
+  static constexpr void each(Visitor&& visit) {
+    ZOR_NESTED(imm3d);
+    ZOR_NESTED(expanse);
+    ZOR_NESTED(deep);
+    controls(visit);
+  }
+};
+static_assert(namesEveryMember<TechVantixFields>());
+
+}  // namespace zorpb
+
+#undef ZOR_RESERVED
+#undef ZOR_NESTED
+#undef ZOR_BORROWED_STRING
+#undef ZOR_UNBOUNDED_LIST
+#undef ZOR_OPEN_LIST_AT
+#undef ZOR_OPEN_LIST
+#undef ZOR_LIST
+#undef ZOR_UNLOADED_SCALAR
+#undef ZOR_SCALAR
+#undef ZOR_LIST_OF
+#undef ZOR_FIELD
