@@ -5,7 +5,12 @@
 
 #include "ZorEngineStructs.h"
 #include "ZorPbFieldKinds.h"
+#include "techContour2.pb.h"
+#include "techGeq10b.pb.h"
+#include "techLeveler.pb.h"
+#include "techOrb.pb.h"
 #include "techVantix.pb.h"
+#include "techXeq.pb.h"
 
 // Inside a list, Message and Struct name its two sides and visit is what each field is handed to.
 // The lists are the only place where a field's name, accessors and member come from one mention.
