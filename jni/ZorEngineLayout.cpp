@@ -65,6 +65,57 @@ ZOR_AT(_zorVantixApiCtrl, def_level, 118, 2);
 ZOR_AT(_zorVantixApiCtrl, focus_level, 120, 2);
 ZOR_SIZE(_zorVantixApiCtrl, 124);
 
+ZOR_AT(_zorXeqApiCtrl, enable, 0, 4);
+ZOR_AT(_zorXeqApiCtrl, input_gain, 4, 2);
+ZOR_AT(_zorXeqApiCtrl, output_gain, 6, 2);
+ZOR_AT(_zorXeqApiCtrl, bypass_gain, 8, 2);
+ZOR_SIZE(_zorXeqApiCtrl, 12);
+
+ZOR_AT(_zorContour2ApiCtrl, mode, 0, 4);
+ZOR_AT(_zorContour2ApiCtrl, mv_downstream, 4, 4);
+ZOR_AT(_zorContour2ApiCtrl, master_volume, 8, 4);
+ZOR_AT(_zorContour2ApiCtrl, target_spl, 12, 4);
+ZOR_AT(_zorContour2ApiCtrl, system_spl, 16, 4);
+ZOR_AT(_zorContour2ApiCtrl, system_calib_level, 20, 4);
+ZOR_AT(_zorContour2ApiCtrl, hi_freq_compensation, 24, 4);
+ZOR_AT(_zorContour2ApiCtrl, lo_freq_compensation, 28, 4);
+ZOR_AT(_zorContour2ApiCtrl, htest, 32, 28);
+ZOR_AT(_zorContour2ApiCtrl, ref_htest, 60, 28);
+ZOR_AT(_zorContour2ApiCtrl, content_dr, 88, 4);
+ZOR_AT(_zorContour2ApiCtrl, max_lf_boost, 92, 4);
+ZOR_SIZE(_zorContour2ApiCtrl, 96);
+
+ZOR_AT(_zorGeq10bApiCtrl, enable, 0, 4);
+ZOR_AT(_zorGeq10bApiCtrl, input_gain, 4, 2);
+ZOR_AT(_zorGeq10bApiCtrl, band0_gain, 6, 2);
+ZOR_AT(_zorGeq10bApiCtrl, band1_gain, 8, 2);
+ZOR_AT(_zorGeq10bApiCtrl, band2_gain, 10, 2);
+ZOR_AT(_zorGeq10bApiCtrl, band3_gain, 12, 2);
+ZOR_AT(_zorGeq10bApiCtrl, band4_gain, 14, 2);
+ZOR_AT(_zorGeq10bApiCtrl, band5_gain, 16, 2);
+ZOR_AT(_zorGeq10bApiCtrl, band6_gain, 18, 2);
+ZOR_AT(_zorGeq10bApiCtrl, band7_gain, 20, 2);
+ZOR_AT(_zorGeq10bApiCtrl, band8_gain, 22, 2);
+ZOR_AT(_zorGeq10bApiCtrl, band9_gain, 24, 2);
+ZOR_SIZE(_zorGeq10bApiCtrl, 28);
+
+ZOR_AT(_zorOrbApiCtrl, downmix, 0, 4);
+ZOR_AT(_zorOrbApiCtrl, super_stereo, 4, 4);
+ZOR_AT(_zorOrbApiCtrl, input_gain, 8, 4);
+ZOR_AT(_zorOrbApiCtrl, bypass_reverb, 12, 4);
+ZOR_AT(_zorOrbApiCtrl, bypass_conv, 16, 4);
+ZOR_AT(_zorOrbApiCtrl, bypass_hpeq, 20, 4);
+ZOR_AT(_zorOrbApiCtrl, super_stereo_coef, 24, 16);
+ZOR_SIZE(_zorOrbApiCtrl, 40);
+
+ZOR_AT(_zorLevelerApiCtrl, enable, 0, 4);
+ZOR_AT(_zorLevelerApiCtrl, intensity_level, 4, 4);
+ZOR_AT(_zorLevelerApiCtrl, mode, 8, 4);
+ZOR_AT(_zorLevelerApiCtrl, input_gain, 12, 2);
+ZOR_AT(_zorLevelerApiCtrl, output_gain, 14, 2);
+ZOR_AT(_zorLevelerApiCtrl, lkfs_gain, 16, 2);
+ZOR_SIZE(_zorLevelerApiCtrl, 20);
+
 #undef ZOR_SIZE
 #undef ZOR_AT
 

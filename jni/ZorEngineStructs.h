@@ -66,3 +66,64 @@ struct _zorVantixApiCtrl {
   int16_t def_level;
   int16_t focus_level;
 };
+
+// Parametric equalizer controls.
+struct _zorXeqApiCtrl {
+  int32_t enable;
+  int16_t input_gain;
+  int16_t output_gain;
+  int16_t bypass_gain;
+};
+
+// Loudness and speaker enhancement controls.
+struct _zorContour2ApiCtrl {
+  int32_t mode;
+  int32_t mv_downstream;
+  int32_t master_volume;
+  int32_t target_spl;
+  int32_t system_spl;
+  int32_t system_calib_level;
+  int32_t hi_freq_compensation;
+  int32_t lo_freq_compensation;
+  int32_t htest[7];
+  int32_t ref_htest[7];
+  int32_t content_dr;
+  int32_t max_lf_boost;
+};
+
+// Ten-band graphic equalizer controls, lowest band first.
+struct _zorGeq10bApiCtrl {
+  int32_t enable;
+  int16_t input_gain;
+  int16_t band0_gain;
+  int16_t band1_gain;
+  int16_t band2_gain;
+  int16_t band3_gain;
+  int16_t band4_gain;
+  int16_t band5_gain;
+  int16_t band6_gain;
+  int16_t band7_gain;
+  int16_t band8_gain;
+  int16_t band9_gain;
+};
+
+// Headphone virtualizer controls; every scalar is 32 bits wide, input_gain included.
+struct _zorOrbApiCtrl {
+  int32_t downmix;
+  int32_t super_stereo;
+  int32_t input_gain;
+  int32_t bypass_reverb;
+  int32_t bypass_conv;
+  int32_t bypass_hpeq;
+  int32_t super_stereo_coef[4];
+};
+
+// Volume leveler controls.
+struct _zorLevelerApiCtrl {
+  int32_t enable;
+  int32_t intensity_level;
+  int32_t mode;
+  int16_t input_gain;
+  int16_t output_gain;
+  int16_t lkfs_gain;
+};

@@ -130,6 +130,97 @@ struct TechVantixFields {
 };
 static_assert(namesEveryMember<TechVantixFields>());
 
+struct TechXeqFields {
+  using Message = com::zor::tech::Xeq;
+  using Struct = _zorXeqApiCtrl;
+
+  template <class Visitor>
+  static constexpr void each(Visitor&& visit) {
+    ZOR_SCALAR(enable);
+    ZOR_SCALAR(input_gain);
+    ZOR_SCALAR(output_gain);
+    ZOR_SCALAR(bypass_gain);
+  }
+};
+static_assert(namesEveryMember<TechXeqFields>());
+
+struct TechContour2Fields {
+  using Message = com::zor::tech::Contour2;
+  using Struct = _zorContour2ApiCtrl;
+
+  template <class Visitor>
+  static constexpr void each(Visitor&& visit) {
+    ZOR_SCALAR(mode);
+    ZOR_SCALAR(mv_downstream);
+    ZOR_SCALAR(master_volume);
+    ZOR_SCALAR(target_spl);
+    ZOR_SCALAR(system_spl);
+    ZOR_SCALAR(system_calib_level);
+    ZOR_SCALAR(hi_freq_compensation);
+    ZOR_SCALAR(lo_freq_compensation);
+    ZOR_LIST(htest);
+    ZOR_LIST(ref_htest);
+    ZOR_SCALAR(content_dr);
+    ZOR_SCALAR(max_lf_boost);
+  }
+};
+static_assert(namesEveryMember<TechContour2Fields>());
+
+struct TechGeq10bFields {
+  using Message = com::zor::tech::Geq10b;
+  using Struct = _zorGeq10bApiCtrl;
+
+  template <class Visitor>
+  static constexpr void each(Visitor&& visit) {
+    ZOR_SCALAR(enable);
+    ZOR_SCALAR(input_gain);
+    ZOR_SCALAR(band0_gain);
+    ZOR_SCALAR(band1_gain);
+    ZOR_SCALAR(band2_gain);
+    ZOR_SCALAR(band3_gain);
+    ZOR_SCALAR(band4_gain);
+    ZOR_SCALAR(band5_gain);
+    ZOR_SCALAR(band6_gain);
+    ZOR_SCALAR(band7_gain);
+    ZOR_SCALAR(band8_gain);
+    ZOR_SCALAR(band9_gain);
+  }
+};
+static_assert(namesEveryMember<TechGeq10bFields>());
+
+struct TechOrbFields {
+  using Message = com::zor::tech::Orb;
+  using Struct = _zorOrbApiCtrl;
+
+  template <class Visitor>
+  static constexpr void each(Visitor&& visit) {
+    ZOR_SCALAR(downmix);
+    ZOR_SCALAR(super_stereo);
+    ZOR_SCALAR(input_gain);
+    ZOR_SCALAR(bypass_reverb);
+    ZOR_SCALAR(bypass_conv);
+    ZOR_SCALAR(bypass_hpeq);
+    ZOR_OPEN_LIST(super_stereo_coef);
+  }
+};
+static_assert(namesEveryMember<TechOrbFields>());
+
+struct TechLevelerFields {
+  using Message = com::zor::tech::Leveler;
+  using Struct = _zorLevelerApiCtrl;
+
+  template <class Visitor>
+  static constexpr void each(Visitor&& visit) {
+    ZOR_SCALAR(enable);
+    ZOR_SCALAR(intensity_level);
+    ZOR_SCALAR(mode);
+    ZOR_SCALAR(input_gain);
+    ZOR_SCALAR(output_gain);
+    ZOR_SCALAR(lkfs_gain);
+  }
+};
+static_assert(namesEveryMember<TechLevelerFields>());
+
 }  // namespace zorpb
 
 #undef ZOR_RESERVED
