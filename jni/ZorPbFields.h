@@ -5,6 +5,9 @@
 
 #include "ZorEngineStructs.h"
 #include "ZorPbFieldKinds.h"
+#include "coefDeep.pb.h"
+#include "coefHpf.pb.h"
+#include "coefXeq.pb.h"
 #include "techContour2.pb.h"
 #include "techGeq10b.pb.h"
 #include "techLeveler.pb.h"
