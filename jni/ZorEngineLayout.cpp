@@ -116,6 +116,24 @@ ZOR_AT(_zorLevelerApiCtrl, output_gain, 14, 2);
 ZOR_AT(_zorLevelerApiCtrl, lkfs_gain, 16, 2);
 ZOR_SIZE(_zorLevelerApiCtrl, 20);
 
+ZOR_AT(_zorXeqApiCoeffBlock, head, 0, 8);
+ZOR_AT(_zorXeqApiCoeffBlock, table_a, 8, 296);
+ZOR_AT(_zorXeqApiCoeffBlock, table_b, 304, 1040);
+ZOR_SIZE(_zorXeqApiCoeffBlock, 1344);
+ZOR_AT(_zorXeqApiCoeff, block, 0, 2688);
+ZOR_SIZE(_zorXeqApiCoeff, 2688);
+
+ZOR_AT(_zorOnyxHpfApiCoeff, order, 0, 4);
+ZOR_AT(_zorOnyxHpfApiCoeff, coeffs, 4, 80);
+ZOR_SIZE(_zorOnyxHpfApiCoeff, 84);
+
+ZOR_AT(_zorDeepApiCoeffEx, speaker_size, 0, 4);
+ZOR_AT(_zorDeepApiCoeffEx, analysis_size, 4, 4);
+ZOR_AT(_zorDeepApiCoeffEx, coeffs, 8, 96);
+ZOR_AT(_zorDeepApiCoeffEx, uuid, 104, kPointer);
+ZOR_AT(_zorDeepApiCoeffEx, sample_rate, 104 + kPointer, 4);
+ZOR_SIZE(_zorDeepApiCoeffEx, 104 + 2 * kPointer);
+
 #undef ZOR_SIZE
 #undef ZOR_AT
 

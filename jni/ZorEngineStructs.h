@@ -127,3 +127,30 @@ struct _zorLevelerApiCtrl {
   int16_t output_gain;
   int16_t lkfs_gain;
 };
+
+// One half of the equalizer coefficients: 336 words.
+struct _zorXeqApiCoeffBlock {
+  int32_t head[2];
+  int32_t table_a[74];
+  int32_t table_b[260];
+};
+
+// Equalizer coefficients: 672 words.
+struct _zorXeqApiCoeff {
+  struct _zorXeqApiCoeffBlock block[2];
+};
+
+// High-pass coefficients. ZorPbCoefHpf::populateStruct does not stop at the end of coeffs.
+struct _zorOnyxHpfApiCoeff {
+  int32_t order;
+  int32_t coeffs[20];
+};
+
+// Bass enhancement coefficients.
+struct _zorDeepApiCoeffEx {
+  int32_t speaker_size;
+  int32_t analysis_size;
+  int32_t coeffs[24];
+  const char* uuid;     // NUL-terminated textual UUID; borrowed, never owned by the struct
+  int32_t sample_rate;  // Hz
+};

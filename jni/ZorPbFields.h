@@ -224,6 +224,44 @@ struct TechLevelerFields {
 };
 static_assert(namesEveryMember<TechLevelerFields>());
 
+struct CoefXeqFields {
+  using Message = com::zor::coef::Xeq;
+  using Struct = _zorXeqApiCoeff;
+
+  template <class Visitor>
+  static constexpr void each(Visitor&& visit) {
+    ZOR_OPEN_LIST_AT(coeffs, block);
+  }
+};
+static_assert(namesEveryMember<CoefXeqFields>());
+
+struct CoefHpfFields {
+  using Message = com::zor::coef::Hpf;
+  using Struct = _zorOnyxHpfApiCoeff;
+
+  template <class Visitor>
+  static constexpr void each(Visitor&& visit) {
+    ZOR_UNLOADED_SCALAR(order);
+    ZOR_UNBOUNDED_LIST(coeffs);
+  }
+};
+static_assert(namesEveryMember<CoefHpfFields>());
+
+struct CoefDeepFields {
+  using Message = com::zor::coef::Deep;
+  using Struct = _zorDeepApiCoeffEx;
+
+  template <class Visitor>
+  static constexpr void each(Visitor&& visit) {
+    ZOR_SCALAR(speaker_size);
+    ZOR_SCALAR(analysis_size);
+    ZOR_OPEN_LIST(coeffs);
+    ZOR_BORROWED_STRING(uuid);
+    ZOR_SCALAR(sample_rate);
+  }
+};
+static_assert(namesEveryMember<CoefDeepFields>());
+
 }  // namespace zorpb
 
 #undef ZOR_RESERVED
