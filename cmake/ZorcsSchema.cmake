@@ -6,7 +6,9 @@ include(GenerateExportHeader)
 # In the order in which the files register when the library is loaded: it is the link order of their
 # static registrars.
 set(ZORCS_SCHEMA_FILES
-  peq coefXeq coefHpf coefDeep coefVantixXover techLeveler techContour2 techVantix techGeq10b techXeq techOrb vrm)
+  peq coefXeq coefHpf coefDeep coefVantixXover
+  techLeveler techContour2 techVantix techGeq10b techXeq techOrb
+  onyx vrm)
 
 set(ZORCS_PROTO_DIR ${CMAKE_CURRENT_SOURCE_DIR}/proto)
 set(ZORCS_GENERATED_DIR ${CMAKE_CURRENT_BINARY_DIR}/proto/gen)

@@ -8,6 +8,7 @@
 #include "coefDeep.pb.h"
 #include "coefHpf.pb.h"
 #include "coefXeq.pb.h"
+#include "onyx.pb.h"
 #include "techContour2.pb.h"
 #include "techGeq10b.pb.h"
 #include "techLeveler.pb.h"
