@@ -134,6 +134,20 @@ ZOR_AT(_zorDeepApiCoeffEx, uuid, 104, kPointer);
 ZOR_AT(_zorDeepApiCoeffEx, sample_rate, 104 + kPointer, 4);
 ZOR_SIZE(_zorDeepApiCoeffEx, 104 + 2 * kPointer);
 
+ZOR_AT(_zorOnyxFaderInfo, shadow, 0, 4);
+ZOR_AT(_zorOnyxFaderInfo, out_length, 4, 4);
+ZOR_AT(_zorOnyxFaderInfo, hold_length, 8, 4);
+ZOR_AT(_zorOnyxFaderInfo, in_length, 12, 4);
+ZOR_AT(_zorOnyxFaderInfo, state, 16, 4);
+ZOR_SIZE(_zorOnyxFaderInfo, 20);
+
+ZOR_AT(_zorOnyxPremixApiCtrlEx, leveler, 0, 20);
+ZOR_AT(_zorOnyxPremixApiCtrlEx, contour2, 20, 96);
+ZOR_AT(_zorOnyxPremixApiCtrlEx, output_device, 116, 4);
+ZOR_AT(_zorOnyxPremixApiCtrlEx, stream_gain, 120, 4);
+ZOR_AT(_zorOnyxPremixApiCtrlEx, fader_info, 124, 20);
+ZOR_SIZE(_zorOnyxPremixApiCtrlEx, 144);
+
 #undef ZOR_SIZE
 #undef ZOR_AT
 

@@ -154,3 +154,21 @@ struct _zorDeepApiCoeffEx {
   const char* uuid;     // NUL-terminated textual UUID; borrowed, never owned by the struct
   int32_t sample_rate;  // Hz
 };
+
+// Fader settings; the lengths stand in the order out, hold, in.
+struct _zorOnyxFaderInfo {
+  int32_t shadow;
+  int32_t out_length;
+  int32_t hold_length;
+  int32_t in_length;
+  int32_t state;
+};
+
+// Everything the pre-mix stage takes.
+struct _zorOnyxPremixApiCtrlEx {
+  struct _zorLevelerApiCtrl leveler;
+  struct _zorContour2ApiCtrl contour2;
+  int32_t output_device;
+  int32_t stream_gain;
+  struct _zorOnyxFaderInfo fader_info;
+};

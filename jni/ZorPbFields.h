@@ -263,6 +263,41 @@ struct CoefDeepFields {
 };
 static_assert(namesEveryMember<CoefDeepFields>());
 
+struct FaderInfoFields {
+  using Message = com::zor::onyx::fxp_std::FaderInfo;
+  using Struct = _zorOnyxFaderInfo;
+
+  template <class Visitor>
+  static constexpr void each(Visitor&& visit) {
+    ZOR_SCALAR(shadow);
+    ZOR_SCALAR(out_length);
+    ZOR_SCALAR(hold_length);
+    ZOR_SCALAR(in_length);
+    ZOR_SCALAR(state);
+  }
+};
+static_assert(namesEveryMember<FaderInfoFields>());
+
+struct PremixFields {
+  using Message = com::zor::onyx::fxp_std::Premix;
+  using Struct = _zorOnyxPremixApiCtrlEx;
+
+  template <class Visitor>
+  static constexpr void controls(Visitor&& visit) {
+    ZOR_SCALAR(output_device);
+    ZOR_SCALAR(stream_gain);
+  }
+
+  template <class Visitor>
+  static constexpr void each(Visitor&& visit) {
+    ZOR_NESTED(leveler);
+    ZOR_NESTED(contour2);
+    controls(visit);
+    ZOR_NESTED(fader_info);
+  }
+};
+static_assert(namesEveryMember<PremixFields>());
+
 }  // namespace zorpb
 
 #undef ZOR_RESERVED
