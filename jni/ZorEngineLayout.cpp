@@ -148,6 +148,31 @@ ZOR_AT(_zorOnyxPremixApiCtrlEx, stream_gain, 120, 4);
 ZOR_AT(_zorOnyxPremixApiCtrlEx, fader_info, 124, 20);
 ZOR_SIZE(_zorOnyxPremixApiCtrlEx, 144);
 
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, output_device, 0, 4);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, postmix_gain, 4, 4);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, hpf_enable, 8, 4);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, limiter, 12, 4);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, orb_stereo_mode, 16, 4);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, orb_multi_ch, 20, 4);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, orb_input_gain, 24, 24);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, bypass_hpeq, 48, 24);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, xeq_enable, 72, 24);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, dc_cut_enable, 96, 4);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, vantix, 100, 124);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, geq10b, 224, 28);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, xeq, 252, 12);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, contour2, 264, 96);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, orb, 360, 40);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, room_multi_ch, 400, 32840);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, room_stereo_front, 33240, 12340);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, room_stereo_wide, 45580, 12340);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, hpeq_coeffs, 57920, 540);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, hpf_coef, 58460, 84);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, xeq_coef, 58544, 2688);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, reserved, 61232, 208);
+ZOR_AT(_zorOnyxPostmixApiCtrlCoeffsEx, fader_info, 61440, 20);
+ZOR_SIZE(_zorOnyxPostmixApiCtrlCoeffsEx, 61460);
+
 #undef ZOR_SIZE
 #undef ZOR_AT
 

@@ -172,3 +172,30 @@ struct _zorOnyxPremixApiCtrlEx {
   int32_t stream_gain;
   struct _zorOnyxFaderInfo fader_info;
 };
+
+// Everything the post-mix stage takes. The per-channel lists have one entry a channel.
+struct _zorOnyxPostmixApiCtrlCoeffsEx {
+  int32_t output_device;
+  int32_t postmix_gain;
+  int32_t hpf_enable;
+  int32_t limiter;
+  int32_t orb_stereo_mode;
+  int32_t orb_multi_ch;
+  int32_t orb_input_gain[6];
+  int32_t bypass_hpeq[6];
+  int32_t xeq_enable[6];
+  int32_t dc_cut_enable;
+  struct _zorVantixApiCtrl vantix;
+  struct _zorGeq10bApiCtrl geq10b;
+  struct _zorXeqApiCtrl xeq;
+  struct _zorContour2ApiCtrl contour2;
+  struct _zorOrbApiCtrl orb;
+  int32_t room_multi_ch[8210];
+  int32_t room_stereo_front[3085];
+  int32_t room_stereo_wide[3085];
+  int32_t hpeq_coeffs[135];
+  struct _zorOnyxHpfApiCoeff hpf_coef;
+  struct _zorXeqApiCoeff xeq_coef;
+  int32_t reserved[52];  // the engine's own: the library neither reads nor writes these words
+  struct _zorOnyxFaderInfo fader_info;
+};

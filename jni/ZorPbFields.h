@@ -298,6 +298,49 @@ struct PremixFields {
 };
 static_assert(namesEveryMember<PremixFields>());
 
+struct PostmixFields {
+  using Message = com::zor::onyx::fxp_std::Postmix;
+  using Struct = _zorOnyxPostmixApiCtrlCoeffsEx;
+
+  template <class Visitor>
+  static constexpr void controls(Visitor&& visit) {
+    ZOR_SCALAR(output_device);
+    ZOR_SCALAR(postmix_gain);
+    ZOR_SCALAR(hpf_enable);
+    ZOR_SCALAR(limiter);
+    ZOR_SCALAR(orb_stereo_mode);
+    ZOR_SCALAR(orb_multi_ch);
+    ZOR_LIST(orb_input_gain);
+    ZOR_LIST(bypass_hpeq);
+    ZOR_LIST(xeq_enable);
+    ZOR_SCALAR(dc_cut_enable);
+  }
+
+  template <class Visitor>
+  static constexpr void tables(Visitor&& visit) {
+    ZOR_LIST(room_multi_ch);
+    ZOR_LIST(room_stereo_front);
+    ZOR_LIST(room_stereo_wide);
+    ZOR_LIST(hpeq_coeffs);
+  }
+
+  template <class Visitor>
+  static constexpr void each(Visitor&& visit) {
+    controls(visit);
+    ZOR_NESTED(vantix);
+    ZOR_NESTED(geq10b);
+    ZOR_NESTED(xeq);
+    ZOR_NESTED(contour2);
+    ZOR_NESTED(orb);
+    tables(visit);
+    ZOR_NESTED(hpf_coef);
+    ZOR_NESTED(xeq_coef);
+    ZOR_RESERVED(reserved);
+    ZOR_NESTED(fader_info);
+  }
+};
+static_assert(namesEveryMember<PostmixFields>());
+
 }  // namespace zorpb
 
 #undef ZOR_RESERVED
