@@ -1,0 +1,31 @@
+# What the scripts share. To be sourced, from bash.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+say() { printf '\n== %s\n' "$*"; }
+
+# Installs the Debian packages that are missing.
+need() {
+  local missing=() package sudo=()
+  for package in "$@"; do
+    dpkg-query --show --showformat '${db:Status-Status}' "$package" 2>/dev/null \
+      | grep -qx installed || missing+=("$package")
+  done
+  [ ${#missing[@]} -gt 0 ] || return 0
+  [ "$(id -u)" -eq 0 ] || sudo=(sudo)
+  say "Installing ${missing[*]}"
+  "${sudo[@]}" apt-get update -qq
+  "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+need_build_tools() { need g++ cmake ninja-build protobuf-compiler libprotobuf-dev "$@"; }
+
+# build PRESET [TARGET...]
+build() {
+  local preset=$1
+  shift
+  say "Building ($preset)"
+  cmake --preset "$preset" >/dev/null
+  cmake --build --preset "$preset" ${1:+--target "$@"}
+}
