@@ -27,8 +27,8 @@ class ScalarDump {
     label.append(" = ");
     os_ << label << (msg_.*get)() << std::endl;
   }
-  template <auto member>
-  void operator()(Nested<member>) const {}
+  template <auto get, auto member>
+  void operator()(Nested<get, member>) const {}
 
  private:
   const M& msg_;

@@ -7,6 +7,9 @@
 //   load   message to the wrapper's own message
 //   read   struct to message
 //   write  message to struct
+//
+// kGet is the accessor by which a field is known, kMember the member; a reader that treats kinds
+// alike asks for the kForm.
 #pragma once
 
 #include <google/protobuf/repeated_field.h>
@@ -20,6 +23,8 @@
 namespace zorpb {
 
 using List32 = google::protobuf::RepeatedField<int32_t>;
+
+enum class Form { kScalar, kList, kText, kBlock, kReserved };
 
 template <class T>
 struct MemberPointer;
@@ -38,6 +43,10 @@ inline void append(const int32_t* from, int count, List32* to) { to->Add(from, f
 template <auto get, auto set, auto member>
 struct Scalar {
   using Member = MemberType<member>;
+  static constexpr Form kForm = Form::kScalar;
+  static constexpr bool kLoaded = true;
+  static constexpr auto kGet = get;
+  static constexpr auto kMember = member;
   const char* name;
 
   template <class M>
@@ -57,6 +66,8 @@ struct Scalar {
 // An integer that is written out but never loaded, so that the struct always gets its default.
 template <auto get, auto set, auto member>
 struct UnloadedScalar : Scalar<get, set, member> {
+  static constexpr bool kLoaded = false;
+
   template <class M>
   static void load(const M&, M&) {}
 };
@@ -67,6 +78,11 @@ struct UnloadedScalar : Scalar<get, set, member> {
 template <class M, const List32& (M::*get)() const, List32* (M::*mut)(), auto member>
 struct List {
   using Member = MemberType<member>;
+  static constexpr Form kForm = Form::kList;
+  static constexpr bool kMustBeFull = false;  // a shorter source is a caller error
+  static constexpr bool kBounded = true;      // the capacity holds when the list is written
+  static constexpr auto kGet = get;
+  static constexpr auto kMember = member;
   // NOLINTNEXTLINE(bugprone-sizeof-expression): a nested array counts in words, too.
   static constexpr int kCapacity = static_cast<int>(sizeof(Member) / sizeof(int32_t));
   const char* name;
@@ -86,6 +102,13 @@ struct List {
   }
 };
 
+// A list that the engine takes in full: a source with fewer elements is a caller error. It is
+// loaded all the same, as far as it goes.
+template <class M, const List32& (M::*get)() const, List32* (M::*mut)(), auto member>
+struct FullList : List<M, get, mut, member> {
+  static constexpr bool kMustBeFull = true;
+};
+
 // A list that the wrapper's message keeps whole; the capacity only cuts what the struct gets.
 template <class M, const List32& (M::*get)() const, List32* (M::*mut)(), auto member>
 struct OpenList : List<M, get, mut, member> {
@@ -99,6 +122,8 @@ struct OpenList : List<M, get, mut, member> {
 // a compiler could conclude that the overrun does not happen.
 template <class M, const List32& (M::*get)() const, List32* (M::*mut)(), auto member>
 struct UnboundedList : OpenList<M, get, mut, member> {
+  static constexpr bool kBounded = false;
+
   template <class S>
   static void write(const M& from, S& to) {
     const List32& list = (from.*get)();
@@ -115,6 +140,9 @@ struct UnboundedList : OpenList<M, get, mut, member> {
 template <auto get, auto mut, auto member>
 struct BorrowedString {
   using Member = MemberType<member>;
+  static constexpr Form kForm = Form::kText;
+  static constexpr auto kGet = get;
+  static constexpr auto kMember = member;
   const char* name;
 
   template <class M>
@@ -133,16 +161,29 @@ struct BorrowedString {
 
 // A struct within a struct. Child wrappers convert it; which and when is the composite's own
 // business and stands in its source.
-template <auto member>
+template <auto get, auto member>
 struct Nested {
   using Member = MemberType<member>;
+  static constexpr Form kForm = Form::kBlock;
+  static constexpr bool kToStruct = true;  // a message that has the block reaches the struct
+  static constexpr auto kGet = get;
+  static constexpr auto kMember = member;
   const char* name;
+};
+
+// A struct within a struct that travels from struct to message only.
+template <auto get, auto member>
+struct NestedToMessage : Nested<get, member> {
+  static constexpr bool kToStruct = false;
 };
 
 // Words of the engine's own, which no conversion touches.
 template <auto member>
 struct Reserved {
   using Member = MemberType<member>;
+  static constexpr Form kForm = Form::kReserved;
+  static constexpr auto kGet = nullptr;
+  static constexpr auto kMember = member;
   const char* name;
 };
 

@@ -3,6 +3,8 @@
 // adding a field is one line here. Private to the library and its tools.
 #pragma once
 
+#include <tuple>
+
 #include "ZorEngineStructs.h"
 #include "ZorPbFieldKinds.h"
 #include "coefDeep.pb.h"
@@ -26,12 +28,14 @@
 #define ZOR_SCALAR(field) ZOR_FIELD(Scalar, field)
 #define ZOR_UNLOADED_SCALAR(field) ZOR_FIELD(UnloadedScalar, field)
 #define ZOR_LIST(field) ZOR_LIST_OF(List, field, field)
+#define ZOR_FULL_LIST(field) ZOR_LIST_OF(FullList, field, field)
 #define ZOR_OPEN_LIST(field) ZOR_LIST_OF(OpenList, field, field)
 #define ZOR_OPEN_LIST_AT(field, member) ZOR_LIST_OF(OpenList, field, member)
 #define ZOR_UNBOUNDED_LIST(field) ZOR_LIST_OF(UnboundedList, field, field)
 #define ZOR_BORROWED_STRING(field) \
   visit(BorrowedString<&Message::field, &Message::mutable_##field, &Struct::field>{#field})
-#define ZOR_NESTED(member) visit(Nested<&Struct::member>{#member})
+#define ZOR_NESTED(field) visit(Nested<&Message::field, &Struct::field>{#field})
+#define ZOR_NESTED_TO_MESSAGE(field) visit(NestedToMessage<&Message::field, &Struct::field>{#field})
 #define ZOR_RESERVED(member) visit(Reserved<&Struct::member>{#member})
 
 namespace zorpb {
@@ -162,8 +166,8 @@ struct TechContour2Fields {
     ZOR_SCALAR(system_calib_level);
     ZOR_SCALAR(hi_freq_compensation);
     ZOR_SCALAR(lo_freq_compensation);
-    ZOR_LIST(htest);
-    ZOR_LIST(ref_htest);
+    ZOR_FULL_LIST(htest);
+    ZOR_FULL_LIST(ref_htest);
     ZOR_SCALAR(content_dr);
     ZOR_SCALAR(max_lf_boost);
   }
@@ -336,19 +340,26 @@ struct PostmixFields {
     ZOR_NESTED(hpf_coef);
     ZOR_NESTED(xeq_coef);
     ZOR_RESERVED(reserved);
-    ZOR_NESTED(fader_info);
+    ZOR_NESTED_TO_MESSAGE(fader_info);
   }
 };
 static_assert(namesEveryMember<PostmixFields>());
 
+using AllFields = std::tuple<TechImm3dFields, TechExpanseFields, TechDeepFields, TechVantixFields,
+                             TechXeqFields, TechContour2Fields, TechGeq10bFields, TechOrbFields,
+                             TechLevelerFields, CoefXeqFields, CoefHpfFields, CoefDeepFields,
+                             FaderInfoFields, PremixFields, PostmixFields>;
+
 }  // namespace zorpb
 
 #undef ZOR_RESERVED
+#undef ZOR_NESTED_TO_MESSAGE
 #undef ZOR_NESTED
 #undef ZOR_BORROWED_STRING
 #undef ZOR_UNBOUNDED_LIST
 #undef ZOR_OPEN_LIST_AT
 #undef ZOR_OPEN_LIST
+#undef ZOR_FULL_LIST
 #undef ZOR_LIST
 #undef ZOR_UNLOADED_SCALAR
 #undef ZOR_SCALAR
