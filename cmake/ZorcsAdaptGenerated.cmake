@@ -11,7 +11,9 @@
 # runtime's own behaviour back unnoticed.
 cmake_minimum_required(VERSION 3.22)
 
-file(READ ${PROTO_DIR}/${SCHEMA}.proto proto)
+include(${CMAKE_CURRENT_LIST_DIR}/ZorcsReadSchema.cmake)
+
+zorcs_read_schema(${PROTO_DIR}/${SCHEMA}.proto proto namespace)
 file(READ ${RAW_DIR}/${SCHEMA}.pb.cc source)
 file(READ ${RAW_DIR}/${SCHEMA}.pb.h header)
 
@@ -36,7 +38,6 @@ function(expect_count text needle expected what)
 endfunction()
 
 # What the schema says must be there: a parse function a message, and a range test an enum field.
-string(REGEX REPLACE "//[^\n]*" "" proto "${proto}")
 string(REGEX MATCHALL "(^|\n) *message +[A-Za-z0-9_]+" messages "${proto}")
 list(LENGTH messages message_count)
 string(REGEX MATCHALL "(^|\n) *enum +[A-Za-z0-9_]+" enums "${proto}")
@@ -67,18 +68,11 @@ expect_count("${source}" "${dropped}" ${enum_field_count} "enum values that drop
 expect_count("${source}" "mutable_unknown_fields" 0 "unknown-field sinks left over")
 
 # Registration: the functions in the package's namespace, the imports in their order.
-function(read_package out proto_text)
-  string(REGEX MATCH "(^|\n)package +([A-Za-z0-9_.]+);" match "${proto_text}")
-  string(REPLACE "." "::" namespace "${CMAKE_MATCH_2}")
-  set(${out} ${namespace} PARENT_SCOPE)
-endfunction()
-
 set(IMPORT_CALLS "")
 string(REGEX MATCHALL "import +\"[A-Za-z0-9_]+\\.proto\"" imports "${proto}")
 foreach(import IN LISTS imports)
   string(REGEX REPLACE ".*\"(.+)\\.proto\"" "\\1" import "${import}")
-  file(READ ${PROTO_DIR}/${import}.proto imported)
-  read_package(namespace "${imported}")
+  zorcs_read_schema(${PROTO_DIR}/${import}.proto imported namespace)
   string(APPEND IMPORT_CALLS "  ::${namespace}::protobuf_AddDesc_${import}_2eproto();\n")
 endforeach()
 

@@ -18,10 +18,11 @@ file(MAKE_DIRECTORY ${ZORCS_GENERATED_DIR} ${zorcs_raw_dir})
 set(zorcs_adapt_script ${CMAKE_CURRENT_LIST_DIR}/ZorcsAdaptGenerated.cmake)
 set(zorcs_adapt_inputs
   ${zorcs_adapt_script}
+  ${CMAKE_CURRENT_LIST_DIR}/ZorcsReadSchema.cmake
   ${CMAKE_CURRENT_LIST_DIR}/registration.h.in
   ${CMAKE_CURRENT_LIST_DIR}/registration.cc.in)
 list(TRANSFORM ZORCS_SCHEMA_FILES REPLACE "(.+)" "${ZORCS_PROTO_DIR}/\\1.proto"
-     OUTPUT_VARIABLE zorcs_proto_files)
+     OUTPUT_VARIABLE ZORCS_PROTO_FILES)
 
 # The compiler writes to one folder and the adapted sources go to another, so that a step that fails
 # leaves nothing behind that a later build would take for finished.
@@ -34,7 +35,7 @@ foreach(schema IN LISTS ZORCS_SCHEMA_FILES)
     COMMAND ${CMAKE_COMMAND} -D SCHEMA=${schema} -D PROTO_DIR=${ZORCS_PROTO_DIR}
             -D RAW_DIR=${zorcs_raw_dir} -D GENERATED_DIR=${ZORCS_GENERATED_DIR}
             -P ${zorcs_adapt_script}
-    DEPENDS ${zorcs_proto_files} ${zorcs_adapt_inputs}
+    DEPENDS ${ZORCS_PROTO_FILES} ${zorcs_adapt_inputs}
     COMMENT "Generating ${schema}.pb.cc"
     VERBATIM)
   list(APPEND zorcs_generated_sources ${ZORCS_GENERATED_DIR}/${schema}.pb.cc)
