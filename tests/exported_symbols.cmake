@@ -1,5 +1,5 @@
 # Holds the dynamic symbol table of LIBRARY, as NM prints it, to what the library means to export:
-# everything that EXPECTED names, and nothing but wrappers, message classes and registration.
+# everything that EXPECTED names, and nothing but what INTERFACE matches.
 cmake_minimum_required(VERSION 3.22)
 
 execute_process(COMMAND ${NM} --dynamic --defined-only --demangle ${LIBRARY}
@@ -10,7 +10,7 @@ string(REGEX MATCHALL "[^\n]+" lines "${table}")
 set(strangers "")
 foreach(line IN LISTS lines)
   string(REGEX REPLACE "^[0-9a-f ]+ [A-Za-z] " "" symbol "${line}")
-  if(NOT symbol MATCHES "^((vtable|typeinfo|typeinfo name) for )?(ZorPb|com::zor::)")
+  if(NOT symbol MATCHES "^((vtable|typeinfo|typeinfo name) for )?(${INTERFACE})")
     string(APPEND strangers "\n  ${symbol}")
   endif()
 endforeach()

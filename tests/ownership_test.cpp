@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "ZorPbCheck.h"
 #include "ZorPbCoefHpf.h"
 #include "ZorPbCoefXeq.h"
 #include "ZorPbFaderInfo.h"
@@ -287,6 +288,21 @@ TEST_F(Ownership, AfterAFailedAllocation) {
   failEach(vantix_);
   failEach(premix_);
   failEach(postmix_);
+}
+
+// A configuration that loses nothing is checked without an allocation, an unsafe one is found out
+// without one.
+TEST_F(Ownership, ChecksAllocateNothing) {
+  onyx::Postmix unsafe = sources_.postmix;
+  for (int i = 0; i <= 20; ++i) unsafe.mutable_hpf_coef()->add_coeffs(i);
+  LiveObjects::failAfter(0);
+  const bool nothing = ZorPbCheck::findings(sources_.premix).empty();
+  const bool premixIsSafe = ZorPbCheck::isSafe(sources_.premix);
+  const bool postmixIsSafe = ZorPbCheck::isSafe(unsafe);
+  LiveObjects::failAfter(-1);
+  EXPECT_TRUE(nothing);
+  EXPECT_TRUE(premixIsSafe);
+  EXPECT_FALSE(postmixIsSafe);
 }
 
 // A load from a struct releases everything, buffers included.

@@ -33,7 +33,7 @@ const Layout kCoefXeq{{},
                       {},
                       Wire().text(1, "00000000-0000-0000-0000-000000000000").sint(2, 48000).bytes(),
                       Wire().text(1, "").sint(2, 0).bytes()};
-const Layout kCoefHpf{{}, {{5, 4, 20, true}}, {}, {0}};
+const Layout kCoefHpf{{}, {{5, 4, 20, true}}, {}, {{3, 0}}};
 const Layout kFaderInfo{{{1, 0, 4, 5}}};
 const Layout kPremix{
     {{3, 116, 4, 2}}, {}, {{1, 0, &kLeveler}, {2, 20, &kContour2}, {5, 124, &kFaderInfo}}};
@@ -110,7 +110,7 @@ void fillImage(const Layout& layout, Depth depth, const ValueAt& value, const Co
       put(array.offset + 4 * static_cast<std::size_t>(i), 4);
     }
   }
-  for (const std::size_t offset : layout.zeroWords) std::memset(bytes + base + offset, 0, 4);
+  for (const ZeroWord& word : layout.zeroWords) std::memset(bytes + base + word.offset, 0, 4);
   for (const Block& block : layout.blocks) {
     if (travels(block, depth)) {
       fillImage(*block.layout, depth, value, count, bytes, base + block.offset);

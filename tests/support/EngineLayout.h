@@ -37,12 +37,18 @@ struct Block {
   Travels travels = Travels::kBothWays;
 };
 
+// A field that is never loaded: its member always becomes 0.
+struct ZeroWord {
+  int number;
+  std::size_t offset;
+};
+
 struct Layout {
   std::vector<Run> runs;
   std::vector<Array> arrays = {};
   std::vector<Block> blocks = {};
-  std::vector<std::size_t> zeroWords = {};  // words that always become 0
-  std::string fixedFields = "";             // wire bytes that a load from a struct adds
+  std::vector<ZeroWord> zeroWords = {};
+  std::string fixedFields = "";  // wire bytes that a load from a struct adds
   std::string emptyFields = "";  // wire bytes that a load from a message without them adds
 };
 
