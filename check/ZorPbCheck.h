@@ -46,7 +46,7 @@ struct ZORCS_CHECK_EXPORT ZorPbFinding {
   // "postmix.vantix.imm3d.input_gain", "postmix.vrm.rooms[2].uuid".
   std::string path() const;
 
-  ZorPbRule rule;
+  ZorPbRule rule = ZorPbRule::kOverrun;
   std::array<Step, kMaxSteps> steps;  // the way from the stage; what lies past its end has no name
   // The elements concerned, both inclusive; -1 where the finding is not about elements of a list.
   int firstIndex = -1;

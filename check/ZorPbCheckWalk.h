@@ -55,14 +55,12 @@ constexpr std::size_t deepest() {
   return below + 1;
 }
 
-template <class A, class B>
-constexpr bool same(A a, B b) {
-  if constexpr (std::is_same_v<A, B>) {
-    return a == b;
-  } else {
-    return false;
-  }
-}
+// Accessors are told apart as types: comparing them as values is no constant expression under every
+// sanitizer.
+template <auto get>
+struct Accessor;
+template <class Declared, class Field>
+constexpr bool isSameField = std::is_same_v<Accessor<Declared::kGet>, Accessor<Field::kGet>>;
 
 // Sink is called with (ZorPbRule, const Path&, const Detail&) for each finding.
 template <class Sink>
@@ -79,7 +77,7 @@ class Walk {
       this->requirement(declared, msg, here);
       bool mapped = false;
       FieldsOf<M>::Type::each([&](auto field) {
-        if constexpr (same(Declared::kGet, decltype(field)::kGet)) {
+        if constexpr (isSameField<Declared, decltype(field)>) {
           mapped = true;
           this->mappedField(declared, field, msg, here);
         }

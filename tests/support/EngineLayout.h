@@ -14,33 +14,33 @@ struct Layout;
 
 // count scalars of consecutive field numbers that lie side by side, width bytes each.
 struct Run {
-  int number;
-  std::size_t offset;
-  std::size_t width;
-  int count;
+  int number = 0;
+  std::size_t offset = 0;
+  std::size_t width = 0;
+  int count = 0;
 };
 
 // A list. An open one is kept whole by the wrapper's message.
 struct Array {
-  int number;
-  std::size_t offset;
-  int capacity;
+  int number = 0;
+  std::size_t offset = 0;
+  int capacity = 0;
   bool open = false;
 };
 
 enum class Travels { kBothWays, kToStruct, kToMessage };
 
 struct Block {
-  int number;
-  std::size_t offset;
-  const Layout* layout;
+  int number = 0;
+  std::size_t offset = 0;
+  const Layout* layout = nullptr;
   Travels travels = Travels::kBothWays;
 };
 
 // A field that is never loaded: its member always becomes 0.
 struct ZeroWord {
-  int number;
-  std::size_t offset;
+  int number = 0;
+  std::size_t offset = 0;
 };
 
 struct Layout {
@@ -48,8 +48,8 @@ struct Layout {
   std::vector<Array> arrays = {};
   std::vector<Block> blocks = {};
   std::vector<ZeroWord> zeroWords = {};
-  std::string fixedFields = "";  // wire bytes that a load from a struct adds
-  std::string emptyFields = "";  // wire bytes that a load from a message without them adds
+  std::string fixedFields = {};  // wire bytes that a load from a struct adds
+  std::string emptyFields = {};  // wire bytes that a load from a message without them adds
 };
 
 extern const Layout kImm3d, kExpanse, kDeep, kVantix, kXeq, kContour2, kGeq10b, kOrb, kLeveler,
