@@ -1,0 +1,51 @@
+#include <iostream>
+#include <memory>
+#include <string>
+
+#include "Changes.h"
+#include "Commands.h"
+#include "Configuration.h"
+#include "Engine.h"
+#include "Trouble.h"
+
+namespace {
+
+using com::zor::onyx::fxp_std::Onyx;
+
+struct Options {
+  std::string file;
+  bool json = false;
+};
+
+// What is outside the two stages never travels: it is taken over as it is.
+Onyx throughEngine(const Onyx& sent) {
+  const auto engine = toEngine(sent);
+  Onyx back;
+  if (sent.has_version()) back.set_version(sent.version());
+  if (sent.has_route_flags()) back.set_route_flags(sent.route_flags());
+  if (sent.has_premix()) addPremix(engine->premix, &back);
+  if (sent.has_postmix()) addPostmix(engine->postmix, &back);
+  return back;
+}
+
+int roundtrip(const Options& options) {
+  const auto configuration = loadConfiguration(options.file);
+  if (isRefused(configuration)) return kFound;
+  const auto back = withNames(throughEngine(configuration.onyx));
+  const auto changes = changesBetween(*configuration.message, *back);
+  print(changes, options.json ? ChangeForm::kJson : ChangeForm::kLines, std::cout);
+  if (changes.empty() && !options.json) std::cout << "lossless\n";
+  return changes.empty() ? kClean : kFound;
+}
+
+}  // namespace
+
+void addRoundtrip(CLI::App* program, int* status) {
+  const auto options = std::make_shared<Options>();
+  auto* command = program->add_subcommand(
+      "roundtrip", "Convert to the engine structs and back, and tell what changed");
+  command->add_option("FILE", options->file, "Configuration")->required();
+  command->add_flag("--json", options->json, "Print one JSON object a difference");
+  command->footer("Example:\n  zorcs roundtrip speaker.txtpb");
+  command->callback([options, status] { *status = roundtrip(*options); });
+}
