@@ -19,7 +19,7 @@ need() {
     apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-need_build_tools() { need g++ cmake ninja-build protobuf-compiler libprotobuf-dev "$@"; }
+need_build_tools() { need g++ cmake ninja-build protobuf-compiler libprotobuf-dev zlib1g-dev "$@"; }
 
 # build PRESET [TARGET...]
 build() {
