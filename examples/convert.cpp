@@ -10,6 +10,7 @@
 #include <memory>
 #include <string>
 
+#include "ZorPbCheck.h"
 #include "ZorPbPostmix.h"
 #include "ZorPbPremix.h"
 #include "onyx.pb.h"
@@ -133,11 +134,12 @@ int main(int argc, char** argv) {
     std::cerr << "convert: " << argv[1] << ": not a configuration\n";
     return 3;
   }
-  // The library writes high-pass coefficients without a cap: whoever loads a file must look first.
-  if (configuration.postmix().hpf_coef().coeffs_size() > 20) {
-    std::cerr << "convert: " << argv[1]
-              << ": postmix.hpf_coef.coeffs: " << configuration.postmix().hpf_coef().coeffs_size()
-              << " values, at most 20 fit\n";
+  // The conversion itself refuses nothing: whoever loads a file asks first.
+  if (!ZorPbCheck::isSafe(configuration)) {
+    for (const ZorPbFinding& finding : ZorPbCheck::findings(configuration)) {
+      if (ZorPbCheck::severity(finding.rule) > ZorPbSeverity::kError) continue;
+      std::cerr << "convert: " << argv[1] << ": " << ZorPbCheck::text(finding) << "\n";
+    }
     return 1;
   }
 
