@@ -1,8 +1,6 @@
 #include <algorithm>
 #include <iostream>
-#include <memory>
 #include <string>
-#include <vector>
 
 #include "Commands.h"
 #include "Configuration.h"
@@ -11,13 +9,7 @@
 
 namespace {
 
-struct Options {
-  std::vector<std::string> files;
-  bool strict = false;
-  bool json = false;
-};
-
-int checkFile(const std::string& file, const Options& options) {
+int checkFile(const std::string& file, const CheckOptions& options) {
   const auto configuration = loadConfiguration(file);
   const auto findings = findingsOf(configuration);
   print(findings, configuration.name, options.files.size() > 1,
@@ -27,8 +19,10 @@ int checkFile(const std::string& file, const Options& options) {
   return isFound ? kFound : kClean;
 }
 
+}  // namespace
+
 // A file that cannot be checked does not keep the next from being checked; the worst status counts.
-int check(const Options& options) {
+int check(const CheckOptions& options) {
   int status = kClean;
   for (const auto& file : options.files) {
     try {
@@ -40,18 +34,4 @@ int check(const Options& options) {
     }
   }
   return status;
-}
-
-}  // namespace
-
-void addCheck(CLI::App* program, int* status) {
-  const auto options = std::make_shared<Options>();
-  auto* command = program->add_subcommand("check", "Tell what a conversion would lose or endanger");
-  command->add_option("FILE", options->files, "Configurations")->required();
-  command->add_flag(
-      "--strict", options->strict,
-      "Let every finding count for the exit status, not only unsafe, error and lossy");
-  command->add_flag("--json", options->json, "Print one JSON object a finding");
-  command->footer("Example:\n  zorcs check --strict speaker.txtpb headphones.txtpb");
-  command->callback([options, status] { *status = check(*options); });
 }

@@ -1,6 +1,5 @@
 #include <iomanip>
 #include <iostream>
-#include <memory>
 #include <string>
 
 #include "Commands.h"
@@ -45,14 +44,7 @@ void printJson(std::ostream& os) {
 
 }  // namespace
 
-void addLayout(CLI::App* program, int* status) {
-  const auto json = std::make_shared<bool>(false);
-  auto* command = program->add_subcommand(
-      "layout", "Print every member of every engine struct, and a hash over them");
-  command->add_flag("--json", *json, "Print one JSON object a member");
-  command->footer("Example:\n  zorcs layout --json | grep room_multi_ch");
-  command->callback([json, status] {
-    *json ? printJson(std::cout) : printLines(std::cout);
-    *status = kClean;
-  });
+int layout(const LayoutOptions& options) {
+  options.json ? printJson(std::cout) : printLines(std::cout);
+  return kClean;
 }

@@ -12,14 +12,8 @@
 
 namespace {
 
-struct Options {
-  std::string file;
-  std::string premix;
-  std::string postmix;
-};
-
-void requireImage(const Options& options) {
-  if (options.premix.empty() && options.postmix.empty()) {
+void requireImage(const ImageNames& images) {
+  if (images.premix.empty() && images.postmix.empty()) {
     throw Trouble(kCannotRun, "--premix or --postmix is required");
   }
 }
@@ -41,51 +35,33 @@ std::unique_ptr<Struct> readImage(const std::string& path) {
   return s;
 }
 
-int pack(const Options& options) {
-  requireImage(options);
+}  // namespace
+
+int pack(const PackOptions& options) {
+  const auto& [premix, postmix] = options.images;
+  requireImage(options.images);
   const auto configuration = loadConfiguration(options.file);
   if (isRefused(configuration)) return kFound;
   const auto engine = toEngine(configuration.onyx);
   // Both are written before either takes the place of an old one.
   std::list<AtomicFile> files;
-  if (!options.premix.empty()) files.emplace_back(options.premix, imageOf(engine->premix));
-  if (!options.postmix.empty()) files.emplace_back(options.postmix, imageOf(engine->postmix));
+  if (!premix.empty()) files.emplace_back(premix, imageOf(engine->premix));
+  if (!postmix.empty()) files.emplace_back(postmix, imageOf(engine->postmix));
   for (auto& file : files) file.commit();
   return kClean;
 }
 
-int unpack(const Options& options) {
-  requireImage(options);
+int unpack(const UnpackOptions& options) {
+  const auto& [premix, postmix] = options.images;
+  requireImage(options.images);
   com::zor::onyx::fxp_std::Onyx configuration;
   configuration.set_version(configuration.version());  // required: the default, made explicit
-  if (!options.premix.empty()) {
-    addPremix(*readImage<_zorOnyxPremixApiCtrlEx>(options.premix), &configuration);
+  if (!premix.empty()) {
+    addPremix(*readImage<_zorOnyxPremixApiCtrlEx>(premix), &configuration);
   }
-  if (!options.postmix.empty()) {
-    addPostmix(*readImage<_zorOnyxPostmixApiCtrlCoeffsEx>(options.postmix), &configuration);
+  if (!postmix.empty()) {
+    addPostmix(*readImage<_zorOnyxPostmixApiCtrlCoeffsEx>(postmix), &configuration);
   }
-  writeFile(options.file, configuration.SerializeAsString());
+  writeFile(options.output, configuration.SerializeAsString());
   return kClean;
-}
-
-}  // namespace
-
-void addPack(CLI::App* program, int* status) {
-  const auto options = std::make_shared<Options>();
-  auto* command = program->add_subcommand("pack", "Write the engine struct images, from zero");
-  command->add_option("FILE", options->file, "Configuration")->required();
-  command->add_option("--premix", options->premix, "Image of _zorOnyxPremixApiCtrlEx");
-  command->add_option("--postmix", options->postmix, "Image of _zorOnyxPostmixApiCtrlCoeffsEx");
-  command->footer("Example:\n  zorcs pack speaker.binpb --premix pre.img --postmix post.img");
-  command->callback([options, status] { *status = pack(*options); });
-}
-
-void addUnpack(CLI::App* program, int* status) {
-  const auto options = std::make_shared<Options>();
-  auto* command = program->add_subcommand("unpack", "Make a message of a device's struct images");
-  command->add_option("--premix", options->premix, "Image of _zorOnyxPremixApiCtrlEx");
-  command->add_option("--postmix", options->postmix, "Image of _zorOnyxPostmixApiCtrlCoeffsEx");
-  command->add_option("-o,--output", options->file, "Binary message")->required();
-  command->footer("Example:\n  zorcs unpack --premix pre.img --postmix post.img -o device.binpb");
-  command->callback([options, status] { *status = unpack(*options); });
 }

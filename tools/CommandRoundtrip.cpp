@@ -1,6 +1,4 @@
 #include <iostream>
-#include <memory>
-#include <string>
 
 #include "Changes.h"
 #include "Commands.h"
@@ -11,11 +9,6 @@
 namespace {
 
 using com::zor::onyx::fxp_std::Onyx;
-
-struct Options {
-  std::string file;
-  bool json = false;
-};
 
 // What is outside the two stages never travels: it is taken over as it is.
 Onyx throughEngine(const Onyx& sent) {
@@ -28,7 +21,9 @@ Onyx throughEngine(const Onyx& sent) {
   return back;
 }
 
-int roundtrip(const Options& options) {
+}  // namespace
+
+int roundtrip(const RoundtripOptions& options) {
   const auto configuration = loadConfiguration(options.file);
   if (isRefused(configuration)) return kFound;
   const auto back = withNames(throughEngine(configuration.onyx));
@@ -36,16 +31,4 @@ int roundtrip(const Options& options) {
   print(changes, options.json ? ChangeForm::kJson : ChangeForm::kLines, std::cout);
   if (changes.empty() && !options.json) std::cout << "lossless\n";
   return changes.empty() ? kClean : kFound;
-}
-
-}  // namespace
-
-void addRoundtrip(CLI::App* program, int* status) {
-  const auto options = std::make_shared<Options>();
-  auto* command = program->add_subcommand(
-      "roundtrip", "Convert to the engine structs and back, and tell what changed");
-  command->add_option("FILE", options->file, "Configuration")->required();
-  command->add_flag("--json", options->json, "Print one JSON object a difference");
-  command->footer("Example:\n  zorcs roundtrip speaker.txtpb");
-  command->callback([options, status] { *status = roundtrip(*options); });
 }

@@ -8,7 +8,6 @@
 #include <cstdint>
 #include <iomanip>
 #include <iostream>
-#include <memory>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -133,14 +132,9 @@ void printJson(const Configuration& configuration, std::ostream& os) {
   os << JsonRecord().add("file", configuration.name).addRaw("configuration", json);
 }
 
-struct Options {
-  std::string file;
-  bool full = false;
-  bool json = false;
-  bool dump = false;
-};
+}  // namespace
 
-int show(const Options& options) {
+int show(const ShowOptions& options) {
   const auto configuration = loadConfiguration(options.file);
   if (options.dump) {
     ZorPbPostmix::dumpRef(configuration.onyx.postmix(), std::cout);
@@ -152,20 +146,4 @@ int show(const Options& options) {
     printFolded(*configuration.message, "", std::cout);
   }
   return kClean;
-}
-
-}  // namespace
-
-void addShow(CLI::App* program, int* status) {
-  const auto options = std::make_shared<Options>();
-  auto* command = program->add_subcommand("show", "Print a configuration, long lists summarised");
-  command->add_option("FILE", options->file, "Configuration")->required();
-  auto* full = command->add_flag("--full", options->full, "Print long lists, too");
-  auto* json =
-      command->add_flag("--json", options->json, "Print one JSON object, long lists whole");
-  auto* dump = command->add_flag("--dump", options->dump, "Print the library's own dump");
-  full->excludes(json)->excludes(dump);
-  json->excludes(dump);
-  command->footer("Example:\n  zorcs show --full device.binpb > device.txtpb");
-  command->callback([options, status] { *status = show(*options); });
 }
