@@ -7,3 +7,10 @@ if(ZORCS_SANITIZERS)
     $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   target_link_options(zorcs_sanitizers INTERFACE -fsanitize=${ZORCS_SANITIZERS})
 endif()
+
+# A library says at its own link what it lacks. With clang++ the sanitizers' functions are found in
+# the program alone, so that a library has to leave them open.
+set(zorcs_no_undefined LINKER:--no-undefined)
+if(ZORCS_SANITIZERS AND CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+  set(zorcs_no_undefined)
+endif()

@@ -7,22 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "ZorPbCoefDeep.h"
-#include "ZorPbCoefHpf.h"
-#include "ZorPbCoefXeq.h"
-#include "ZorPbFaderInfo.h"
-#include "ZorPbPostmix.h"
-#include "ZorPbPremix.h"
-#include "ZorPbTechContour2.h"
-#include "ZorPbTechDeep.h"
-#include "ZorPbTechExpanse.h"
-#include "ZorPbTechGeq10b.h"
-#include "ZorPbTechImm3d.h"
-#include "ZorPbTechLeveler.h"
-#include "ZorPbTechOrb.h"
-#include "ZorPbTechVantix.h"
-#include "ZorPbTechXeq.h"
 #include "support/EngineLayout.h"
+#include "support/Wrappers.h"
 
 namespace zortest {
 namespace {
@@ -60,14 +46,6 @@ void expectImage(const S& s, const std::vector<unsigned char>& expected) {
   }
 }
 
-template <class W_, class M_, class S_, const Layout& layout_>
-struct Conversion {
-  using W = W_;
-  using M = M_;
-  using S = S_;
-  static constexpr const Layout& layout() { return layout_; }
-};
-
 template <class C>
 class Carries : public testing::Test {
  protected:
@@ -91,22 +69,7 @@ class Carries : public testing::Test {
   }
 };
 
-using AllConversions = testing::Types<
-    Conversion<ZorPbTechImm3d, tech::Imm3d, _zorImm3dApiCtrl, kImm3d>,
-    Conversion<ZorPbTechExpanse, tech::Expanse, _zorExpanseApiCtrl, kExpanse>,
-    Conversion<ZorPbTechDeep, tech::Deep, _zorDeepApiCtrl, kDeep>,
-    Conversion<ZorPbTechVantix, tech::Vantix, _zorVantixApiCtrl, kVantix>,
-    Conversion<ZorPbTechXeq, tech::Xeq, _zorXeqApiCtrl, kXeq>,
-    Conversion<ZorPbTechContour2, tech::Contour2, _zorContour2ApiCtrl, kContour2>,
-    Conversion<ZorPbTechGeq10b, tech::Geq10b, _zorGeq10bApiCtrl, kGeq10b>,
-    Conversion<ZorPbTechOrb, tech::Orb, _zorOrbApiCtrl, kOrb>,
-    Conversion<ZorPbTechLeveler, tech::Leveler, _zorLevelerApiCtrl, kLeveler>,
-    Conversion<ZorPbCoefXeq, coef::Xeq, _zorXeqApiCoeff, kCoefXeq>,
-    Conversion<ZorPbCoefHpf, coef::Hpf, _zorOnyxHpfApiCoeff, kCoefHpf>,
-    Conversion<ZorPbFaderInfo, onyx::FaderInfo, _zorOnyxFaderInfo, kFaderInfo>,
-    Conversion<ZorPbPremix, onyx::Premix, _zorOnyxPremixApiCtrlEx, kPremix>,
-    Conversion<ZorPbPostmix, onyx::Postmix, _zorOnyxPostmixApiCtrlCoeffsEx, kPostmix>>;
-TYPED_TEST_SUITE(Carries, AllConversions);
+TYPED_TEST_SUITE(Carries, LaidOutConversions<testing::Types>);
 
 TYPED_TEST(Carries, EveryFieldToItsMember) { this->fromMessage(distinctValue, capacityOf); }
 

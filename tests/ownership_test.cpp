@@ -8,30 +8,13 @@
 #include <vector>
 
 #include "ZorPbCheck.h"
-#include "ZorPbCoefHpf.h"
-#include "ZorPbCoefXeq.h"
-#include "ZorPbFaderInfo.h"
-#include "ZorPbPostmix.h"
-#include "ZorPbPremix.h"
-#include "ZorPbTechContour2.h"
-#include "ZorPbTechDeep.h"
-#include "ZorPbTechExpanse.h"
-#include "ZorPbTechGeq10b.h"
-#include "ZorPbTechImm3d.h"
-#include "ZorPbTechLeveler.h"
-#include "ZorPbTechOrb.h"
-#include "ZorPbTechVantix.h"
-#include "ZorPbTechXeq.h"
 #include "support/EngineLayout.h"
 #include "support/LiveObjects.h"
 #include "support/OwnershipModel.h"
+#include "support/Wrappers.h"
 
 namespace zortest {
 namespace {
-
-namespace coef = com::zor::coef;
-namespace onyx = com::zor::onyx::fxp_std;
-namespace tech = com::zor::tech;
 
 // The child slots, for the tests to see.
 struct OpenVantix : ZorPbTechVantix {
@@ -138,28 +121,7 @@ struct Subject {
 
 class Ownership : public testing::Test {
  protected:
-  Ownership() {
-    know<ZorPbTechImm3d, tech::Imm3d>("Imm3d");
-    know<ZorPbTechExpanse, tech::Expanse>("Expanse");
-    know<ZorPbTechDeep, tech::Deep>("Deep");
-    know<ZorPbTechVantix, tech::Vantix>("Vantix");
-    know<ZorPbTechGeq10b, tech::Geq10b>("Geq10b");
-    know<ZorPbTechXeq, tech::Xeq>("Xeq");
-    know<ZorPbTechContour2, tech::Contour2>("Contour2");
-    know<ZorPbTechOrb, tech::Orb>("Orb");
-    know<ZorPbTechLeveler, tech::Leveler>("Leveler");
-    know<ZorPbCoefXeq, coef::Xeq>("XeqCoef");
-    know<ZorPbCoefHpf, coef::Hpf>("HpfCoef");
-    know<ZorPbFaderInfo, onyx::FaderInfo>("FaderInfo");
-    know<ZorPbPremix, onyx::Premix>("Premix");
-    know<ZorPbPostmix, onyx::Postmix>("Postmix");
-  }
-
-  template <class W, class M>
-  void know(const std::string& name) {
-    objects_.know(name, M());
-    objects_.know(wrapperOf(name), W(&M::default_instance()));
-  }
+  Ownership() { knowAll(&objects_); }
 
   // The live objects that came since before.
   Census since(const Census& before) const {
@@ -180,7 +142,7 @@ class Ownership : public testing::Test {
     std::unique_ptr<W> wrapper;
     for (const Load load : loads) {
       wrapper == nullptr ? void(wrapper = subject.construct(load)) : subject.init(*wrapper, load);
-      load == Load::kStruct ? model.loadStruct() : model.loadMessage(load == Load::kFull);
+      load == Load::kStruct ? model.loadStruct() : model.loadMessage(load == Load::kFull ? ~0U : 0);
       EXPECT_EQ(since(before), expected);
     }
     wrapper.reset();
@@ -268,7 +230,7 @@ TEST_F(Ownership, HighPassCoefficients) {
     ZorPbCoefHpf wrapper(&msg);
     wrapper.init(&msg);
   }
-  EXPECT_EQ(since(before), (Census{{"HpfCoef", 1}}));
+  EXPECT_EQ(since(before), (Census{{"com.zor.coef.Hpf", 1}}));
 }
 
 // The coefficient wrappers load in ways of their own.
@@ -277,10 +239,10 @@ TEST_F(Ownership, EqualizerCoefficients) {
   {
     ZorPbCoefXeq wrapper(_zorXeqApiCoeff{});
     wrapper.init(_zorXeqApiCoeff{});
-    EXPECT_EQ(since(before), (Census{{"XeqCoef", 1}}));
+    EXPECT_EQ(since(before), (Census{{"com.zor.coef.Xeq", 1}}));
     wrapper.init(&coef::Xeq::default_instance());
   }
-  EXPECT_EQ(since(before), (Census{{"XeqCoef", 1}}));
+  EXPECT_EQ(since(before), (Census{{"com.zor.coef.Xeq", 1}}));
 }
 
 TEST_F(Ownership, AfterAFailedAllocation) {

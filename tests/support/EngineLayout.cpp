@@ -34,6 +34,7 @@ const Layout kCoefXeq{{},
                       Wire().text(1, "00000000-0000-0000-0000-000000000000").sint(2, 48000).bytes(),
                       Wire().text(1, "").sint(2, 0).bytes()};
 const Layout kCoefHpf{{}, {{5, 4, 20, true}}, {}, {{3, 0}}};
+const Layout kCoefDeep{{{2, 0, 4, 2}, {4, 104 + sizeof(char*), 4, 1}}, {{5, 8, 24, true}}};
 const Layout kFaderInfo{{{1, 0, 4, 5}}};
 const Layout kPremix{
     {{3, 116, 4, 2}}, {}, {{1, 0, &kLeveler}, {2, 20, &kContour2}, {5, 124, &kFaderInfo}}};

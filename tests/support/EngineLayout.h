@@ -52,8 +52,9 @@ struct Layout {
   std::string emptyFields = {};  // wire bytes that a load from a message without them adds
 };
 
+// kCoefDeep leaves out its borrowed string.
 extern const Layout kImm3d, kExpanse, kDeep, kVantix, kXeq, kContour2, kGeq10b, kOrb, kLeveler,
-    kCoefXeq, kCoefHpf, kFaderInfo, kPremix, kPostmix;
+    kCoefXeq, kCoefHpf, kCoefDeep, kFaderInfo, kPremix, kPostmix;
 
 // What a field holds, by its offset and width in the outermost struct, and how long a list is.
 using ValueAt = std::function<int32_t(std::size_t offset, std::size_t width)>;

@@ -16,11 +16,18 @@ Header ring = {&ring, &ring};
 std::size_t liveBlocks = 0;
 int untilFailure = -1;
 
+void release(Header* block) {
+  block->previous->next = block->next;
+  block->next->previous = block->previous;
+  --liveBlocks;
+  std::free(block);
+}
+
 }  // namespace
 
-Census LiveObjects::census() const {
+Census LiveObjects::census(const void* mark) const {
   Census found;
-  for (Header* block = ring.next; block != &ring; block = block->next) {
+  for (Header* block = ring.next; block != &ring && block + 1 != mark; block = block->next) {
     const void* table = nullptr;
     std::memcpy(&table, static_cast<const void*>(block + 1), sizeof(table));
     const auto name = names_.find(table);
@@ -30,6 +37,13 @@ Census LiveObjects::census() const {
 }
 
 std::size_t LiveObjects::blocks() { return liveBlocks; }
+
+void LiveObjects::freeSince(const void* mark) {
+  for (bool isMark = false; !isMark;) {
+    isMark = ring.next + 1 == mark;
+    release(ring.next);
+  }
+}
 
 void LiveObjects::failAfter(int count) { untilFailure = count; }
 
@@ -55,15 +69,16 @@ using zortest::untilFailure;
 }
 
 [[gnu::noinline]] void operator delete(void* memory) noexcept {
-  if (memory == nullptr) return;
-  Header* block = static_cast<Header*>(memory) - 1;
-  block->previous->next = block->next;
-  block->next->previous = block->previous;
-  --liveBlocks;
-  std::free(block);
+  if (memory != nullptr) zortest::release(static_cast<Header*>(memory) - 1);
 }
 
 void operator delete(void* memory, std::size_t /*size*/) noexcept { operator delete(memory); }
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+  return operator new(size);
+}
+void operator delete(void* memory, const std::nothrow_t& /*tag*/) noexcept {
+  operator delete(memory);
+}
 void* operator new[](std::size_t size) { return operator new(size); }
 void operator delete[](void* memory) noexcept { operator delete(memory); }
 void operator delete[](void* memory, std::size_t /*size*/) noexcept { operator delete(memory); }

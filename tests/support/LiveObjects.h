@@ -23,7 +23,14 @@ class LiveObjects {
     names_[table] = name;
   }
 
-  Census census() const;
+  // Of the blocks that came since the mark, or of all.
+  Census census(const void* mark = nullptr) const;
+
+  // A place in the order of allocations. It must still be allocated when it is used.
+  static const void* mark() { return new char; }
+
+  // Frees the memory of every block that came since the mark, and the mark; destroys nothing.
+  static void freeSince(const void* mark);
 
   // Live heap blocks of any kind.
   static std::size_t blocks();

@@ -1,29 +1,32 @@
 #include "OwnershipModel.h"
 
+#include "Wrappers.h"
+
 namespace zortest {
 namespace {
 
-const ClassModel kExpanseModel{"Expanse"};
-const ClassModel kDeepModel{"Deep"};
-const ClassModel kGeq10bModel{"Geq10b"};
-const ClassModel kXeqModel{"Xeq"};
-const ClassModel kContour2Model{"Contour2"};
-const ClassModel kOrbModel{"Orb"};
-const ClassModel kLevelerModel{"Leveler"};
-const ClassModel kCoefXeqModel{"XeqCoef"};
-const ClassModel kFaderInfoModel{"FaderInfo"};
-const ClassModel kHpfModel{"HpfCoef"};
+const ClassModel kExpanseModel{"com.zor.tech.Expanse"};
+const ClassModel kDeepModel{"com.zor.tech.Deep"};
+const ClassModel kGeq10bModel{"com.zor.tech.Geq10b"};
+const ClassModel kXeqModel{"com.zor.tech.Xeq"};
+const ClassModel kContour2Model{"com.zor.tech.Contour2"};
+const ClassModel kOrbModel{"com.zor.tech.Orb"};
+const ClassModel kLevelerModel{"com.zor.tech.Leveler"};
+const ClassModel kCoefXeqModel{"com.zor.coef.Xeq"};
+const ClassModel kFaderInfoModel{"com.zor.onyx.fxp_std.FaderInfo"};
+const ClassModel kHpfModel{"com.zor.coef.Hpf"};
 
 }  // namespace
 
-const ClassModel kImm3dModel{"Imm3d"};
+const ClassModel kImm3dModel{"com.zor.tech.Imm3d"};
 const ClassModel kVantixModel{
-    "Vantix", {{"imm3d", &kImm3dModel}, {"expanse", &kExpanseModel}, {"deep", &kDeepModel}}};
-const ClassModel kPremixModel{"Premix",
+    "com.zor.tech.Vantix",
+    {{"imm3d", &kImm3dModel}, {"expanse", &kExpanseModel}, {"deep", &kDeepModel}}};
+const ClassModel kPremixModel{"com.zor.onyx.fxp_std.Premix",
                               {{"leveler", &kLevelerModel, true, true, false, false},
                                {"contour2", &kContour2Model, true, true, false, false},
                                {"fader_info", &kFaderInfoModel, true, true, false, false}}};
-const ClassModel kPostmixModel{"Postmix",
+const ClassModel kPostmixModel{"com.zor.onyx.fxp_std.Postmix",
                                {{"vantix", &kVantixModel},
                                 {"geq10b", &kGeq10bModel},
                                 {"xeq", &kXeqModel},
@@ -33,18 +36,30 @@ const ClassModel kPostmixModel{"Postmix",
                                 {"hpf_coef", &kHpfModel, true, false, false, true},
                                 {"fader_info", &kFaderInfoModel, false, true, false, false}}};
 
+void knowAll(LiveObjects* objects) {
+  eachConversion([&](auto conversion) {
+    using M = typename decltype(conversion)::M;
+    const M& sample = M::default_instance();
+    objects->know(sample.GetTypeName(), sample);
+    objects->know(wrapperOf(sample.GetTypeName()), typename decltype(conversion)::W(&sample));
+  });
+}
+
 OwnershipModel::OwnershipModel(const ClassModel& classModel, Census* live)
     : class_(classModel), live_(live) {
   count(wrapperOf(class_.message), 1);
 }
 
-void OwnershipModel::loadMessage(bool withBlocks) {
+void OwnershipModel::loadMessage(unsigned blocks) {
   held_ = makeMessage();
+  unsigned bit = 1;
   for (const Slot& slot : class_.slots) {
-    if (!slot.madeFromMessage || !withBlocks) continue;
+    const bool isPresent = (blocks & bit) != 0;
+    bit <<= 1;
+    if (!slot.madeFromMessage || !isPresent) continue;
     wrappers_.push_back(std::make_unique<OwnershipModel>(*slot.child, live_));
     children_[slot.field] = wrappers_.back().get();
-    children_[slot.field]->loadMessage(withBlocks);
+    children_[slot.field]->loadMessage(blocks >> kNestedBlocks);
   }
 }
 

@@ -22,13 +22,16 @@ struct Slot {
   bool deletedByDestructor = true;
 };
 
-// Known by the name of its message.
+// Known by its message's full name.
 struct ClassModel {
   std::string message;
   std::vector<Slot> slots = {};
 };
 
 inline std::string wrapperOf(const std::string& message) { return message + "'s wrapper"; }
+
+// Makes every wrapper and its message known by the model's names.
+void knowAll(LiveObjects* objects);
 
 extern const ClassModel kImm3dModel, kVantixModel, kPremixModel, kPostmixModel;
 
@@ -37,7 +40,10 @@ class OwnershipModel {
  public:
   OwnershipModel(const ClassModel& classModel, Census* live);
 
-  void loadMessage(bool withBlocks);
+  // From a message that has the blocks whose bits are set, in the order of the slots; the blocks'
+  // own blocks are the bits from kNestedBlocks on.
+  static constexpr int kNestedBlocks = 8;
+  void loadMessage(unsigned blocks);
   void loadStruct();
   void destroy();
 
