@@ -4,6 +4,17 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 say() { printf '\n== %s\n' "$*"; }
 
+# The machine types to build for besides the host's, as Debian names them, and the names of their
+# compilers.
+declare -A cross_triplets=(
+  [arm64]=aarch64-linux-gnu
+  [armhf]=arm-linux-gnueabihf
+  [i386]=i686-linux-gnu
+  [s390x]=s390x-linux-gnu
+)
+cross_arch_choice="arm64|armhf|i386|s390x"
+is_cross_arch() { [[ $1 && -v cross_triplets[$1] ]]; }
+
 # Installs the Debian packages that are missing.
 need() {
   local missing=() package sudo=()
