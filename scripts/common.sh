@@ -40,3 +40,10 @@ build() {
   cmake --preset "$preset" >/dev/null
   cmake --build --preset "$preset" ${1:+--target "$@"}
 }
+
+# build_and_test PRESET
+build_and_test() {
+  build "$1"
+  say "Testing ($1)"
+  ctest --preset "$1"
+}
