@@ -348,5 +348,13 @@ TEST(Check, Texts) {
   EXPECT_FALSE(ZorPbCheck::isSafe(msg));
 }
 
+// As a caller meets it who was compiled with a later checker's header.
+TEST(Check, TakesAnUnknownRuleForUnsafe) {
+  ZorPbFinding finding;
+  finding.rule = static_cast<ZorPbRule>(-1);
+  EXPECT_EQ(ZorPbCheck::text(finding), ": unsafe:  []");
+  EXPECT_STREQ(ZorPbCheck::name(static_cast<ZorPbSeverity>(-1)), "");
+}
+
 }  // namespace
 }  // namespace zortest
