@@ -346,6 +346,30 @@ TEST(Check, Texts) {
     EXPECT_NE(std::find(texts.begin(), texts.end(), expected), texts.end()) << expected;
   }
   EXPECT_FALSE(ZorPbCheck::isSafe(msg));
+
+  onyx::Premix premix;
+  premix.mutable_leveler();
+  EXPECT_EQ(ZorPbCheck::text(ZorPbCheck::findings(premix).at(0)),
+            "premix.leveler.enable: error: is required and not set [missing-required]");
+  EXPECT_FALSE(ZorPbCheck::isSafe(premix));
+}
+
+TEST(Check, TextsSayOneOrSeveral) {
+  const struct {
+    ZorPbRule rule;
+    int last;
+    const char* text;
+  } cases[] = {
+      {ZorPbRule::kOverrun, 21,
+       "[20..21]: unsafe: 2 values past the capacity of 20 are written over what follows the table "
+       "[overrun]"},
+      {ZorPbRule::kListCut, 20, "[20]: lossy: 1 value past the capacity of 20 is cut [list-cut]"},
+      {ZorPbRule::kNotCarried, 21,
+       "[20..21]: dropped: 2 elements never reach the engine "
+       "[not-carried]"}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(ZorPbCheck::text({c.rule, {}, 20, c.last, c.last + 1, 20}), c.text);
+  }
 }
 
 // As a caller meets it who was compiled with a later checker's header.

@@ -7,6 +7,7 @@
 #include <sstream>
 #include <string>
 
+#include "ZorPbCoefDeep.h"
 #include "ZorPbPostmix.h"
 #include "ZorPbPremix.h"
 #include "ZorPbTechImm3d.h"
@@ -112,6 +113,7 @@ TEST(NoMessage, IsReportedByTheStagesOnly) {
   expectNoMessage<ZorPbPostmix, onyx::Postmix, _zorOnyxPostmixApiCtrlCoeffsEx>(line);
   expectNoMessage<ZorPbPremix, onyx::Premix, _zorOnyxPremixApiCtrlEx>(line);
   expectNoMessage<ZorPbTechVantix, tech::Vantix, _zorVantixApiCtrl>("");
+  expectNoMessage<ZorPbCoefDeep, com::zor::coef::Deep, _zorDeepApiCoeffEx>("");
   expectNoMessage<ZorPbTechImm3d, tech::Imm3d, _zorImm3dApiCtrl>("");
 }
 

@@ -271,9 +271,13 @@ TEST_F(Ownership, ChecksAllocateNothing) {
 TEST_F(Ownership, LoadsFromStructsLeaveNothing) {
   ZorPbPostmix postmix(sources_.postmixStruct);
   ZorPbPremix premix(sources_.premixStruct);
+  _zorDeepApiCoeffEx coefficients = {};
+  coefficients.uuid = "";
+  ZorPbCoefDeep deep(coefficients);
   const std::size_t before = LiveObjects::blocks();
   postmix.init(sources_.postmixStruct);
   premix.init(sources_.premixStruct);
+  deep.init(coefficients);
   EXPECT_EQ(LiveObjects::blocks(), before);
 }
 
