@@ -293,6 +293,8 @@ TEST(Check, TellsExactlyWhatHappens) {
     bool safe = true;
     for (const ZorPbFinding& finding : findings) {
       ++times[finding.rule];
+      EXPECT_TRUE(finding.firstIndex >= 0 || (finding.firstIndex == -1 && finding.lastIndex == -1));
+      for (const auto& step : finding.steps) EXPECT_GE(step.index, -1);
       if (ZorPbCheck::severity(finding.rule) <= ZorPbSeverity::kError) safe = false;
     }
     EXPECT_EQ(ZorPbCheck::isSafe(msg), safe);
@@ -370,6 +372,14 @@ TEST(Check, TextsSayOneOrSeveral) {
   for (const auto& c : cases) {
     EXPECT_EQ(ZorPbCheck::text({c.rule, {}, 20, c.last, c.last + 1, 20}), c.text);
   }
+  // As it is made, a finding is about no element.
+  ZorPbFinding made;
+  EXPECT_EQ(ZorPbCheck::text(made),
+            ": unsafe: 1 value past the capacity of 0 is written over what "
+            "follows the table [overrun]");
+  made.rule = ZorPbRule::kListShort;
+  EXPECT_EQ(ZorPbCheck::text(made),
+            ": partial: 0 values for 0, the struct keeps what it had [list-short]");
 }
 
 // As a caller meets it who was compiled with a later checker's header.

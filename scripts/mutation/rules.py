@@ -240,7 +240,7 @@ def field_edits(code: str, _text: str) -> Iterator[Edit]:
 
 def member_edits(code: str, text: str) -> Iterator[Edit]:
     """In the structs: the names of neighbours of one type change places."""
-    found = list(re.finditer(r"^  ([\w ]+) (\w+)(\[\d+\])?;[^\n]*\n", code, re.MULTILINE))
+    found = list(re.finditer(r"^  (\w+_t|struct \w+) (\w+)(\[\d+\])?;[^\n]*\n", code, re.MULTILINE))
     for one, other in zip(found, found[1:]):
         if one.end() == other.start() and (one[1], one[3]) == (other[1], other[3]):
             between = text[one.end(2) : other.start(2)]

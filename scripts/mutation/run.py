@@ -1,8 +1,8 @@
 """Breaks the code one place at a time and shows that the tests notice.
 
 Each mutant (rules.py) is built and tested in a copy of the tree below build/mutate. A mutant that
-nothing notices survives; the exit status is 1 when one survives that tests/mutants_accepted.txt
-does not name, with the reason why no test could or should notice it.
+nothing notices survives; the exit status is 1 when one survives that accepted.txt does not name,
+with the reason why no test could or should notice it.
 """
 
 import argparse
@@ -16,15 +16,14 @@ import signal
 import subprocess
 import sys
 import time
-from collections import Counter
-from dataclasses import dataclass, field
+from collections import Counter, defaultdict
 from pathlib import Path
 
 from rules import CMAKE_SOURCE, Mutant, mutants
 
 ROOT = Path(__file__).resolve().parents[2]
 WORK = ROOT / "build" / "mutate"
-ACCEPTED = ROOT / "tests" / "mutants_accepted.txt"
+ACCEPTED = Path(__file__).with_name("accepted.txt")
 
 # In the order in which they are built and run: those that build fast and notice most go first.
 PROGRAMS = (
@@ -174,10 +173,6 @@ class Tree:
         return last_match(r"^\s*\d+ - (\S+) \(", output, "ctest")
 
 
-def key_of(rule: str, file: str, diff: str) -> str:
-    return f"{file}: {rule}\n{diff}"
-
-
 def accepted_keys() -> set[str]:
     """The entries of the list of accepted mutants, without the reasons."""
     text = ACCEPTED.read_text() if ACCEPTED.exists() else ""
@@ -194,49 +189,22 @@ def sample(all_mutants: list[Mutant], count: int, seed: int) -> list[Mutant]:
     return [ordered[pick] for pick in picks if pick < len(ordered)]
 
 
-@dataclass
-class Tally:
-    tried: int = 0
-    build: int = 0
-    tests: int = 0
-    survived: int = 0
-
-    def add(self, outcome: str | None) -> None:
-        self.tried += 1
-        self.build += outcome == "build"
-        self.tests += outcome not in (None, "build")
-        self.survived += outcome is None
-
-    def row(self, name: str) -> str:
-        share = 100 * self.survived / self.tried if self.tried else 0
-        counts = f"{self.tried:6} {self.build:6} {self.tests:6} {self.survived:8} {share:6.1f} %"
-        return f"{name:32} {counts}"
-
-
-@dataclass
-class Summary:
-    total: Tally = field(default_factory=Tally)
-    rules: dict[str, Tally] = field(default_factory=dict)
-    files: dict[str, Tally] = field(default_factory=dict)
-    by_test: Counter[str] = field(default_factory=Counter)
-
-    def add(self, mutant: Mutant, outcome: str | None) -> None:
-        self.total.add(outcome)
-        self.rules.setdefault(mutant.rule, Tally()).add(outcome)
-        self.files.setdefault(mutant.file, Tally()).add(outcome)
-        if outcome not in (None, "build"):
-            self.by_test[outcome.split("/")[0]] += 1
-
-    def show(self) -> None:
-        print(f"\n{'':32}  tried  build  tests survived  share")
-        for tallies in (self.rules, self.files):
-            for name, tally in sorted(tallies.items()):
-                print(tally.row(name))
-            print()
-        print(self.total.row("all"))
-        print("\nnoticed by")
-        for name, count in self.by_test.most_common():
-            print(f"{count:6} {name}")
+def show_summary(outcomes: list[tuple[Mutant, str | None]]) -> None:
+    columns = ("build", "tests", "survived")
+    tallies: dict[str, Counter[str]] = defaultdict(Counter)
+    for mutant, outcome in outcomes:
+        column = "survived" if outcome is None else "build" if outcome == "build" else "tests"
+        for row in (f"  {mutant.rule}", mutant.file, "~all"):
+            tallies[row][column] += 1
+    print(f"\n{'':34} tried " + " ".join(f"{column:>8}" for column in columns) + "    share")
+    for row, tally in sorted(tallies.items()):
+        counts = " ".join(f"{tally[column]:8}" for column in columns)
+        share = 100 * tally["survived"] / tally.total()
+        print(f"{row.strip(' ~'):34} {tally.total():5} {counts} {share:6.1f} %")
+    by_test = Counter(outcome.split("/")[0] for _, outcome in outcomes if outcome)
+    print("\nnoticed by")
+    for name, count in by_test.most_common():
+        print(f"{count:6} {name}")
 
 
 def arguments() -> argparse.Namespace:
@@ -252,13 +220,13 @@ def arguments() -> argparse.Namespace:
 def main() -> int:
     args = arguments()
     there_are = mutants(ROOT)
-    keys = {id(m): key_of(m.rule, m.file, m.diff()) for m in there_are}
+    keys = {m: f"{m.file}: {m.rule}\n{m.diff()}" for m in there_are}
     accepted = accepted_keys()
     for key in sorted(accepted - set(keys.values())):
-        print(f"tests/mutants_accepted.txt: no such mutant any more:\n{key}\n")
+        print(f"accepted.txt: no such mutant any more:\n{key}\n")
 
-    chosen = [m for m in there_are if keys[id(m)] not in accepted]
-    chosen = [m for m in chosen if re.search(args.only, keys[id(m)])]
+    chosen = [m for m in there_are if keys[m] not in accepted]
+    chosen = [m for m in chosen if re.search(args.only, keys[m])]
     if args.sample:
         chosen = sample(chosen, args.sample, args.seed)
     if args.list:
@@ -276,21 +244,18 @@ def main() -> int:
     print("Building and testing the code as it is", flush=True)
     tree = Tree(args.jobs)
     tree.prepare()
-    summary, survivors = Summary(), []
+    outcomes: list[tuple[Mutant, str | None]] = []
     for count, mutant in enumerate(chosen, 1):
         start = time.monotonic()
         outcome = tree.outcome_of(mutant)
-        summary.add(mutant, outcome)
+        outcomes.append((mutant, outcome))
         took = time.monotonic() - start
         place = f"{took:5.1f} s  {mutant.file}:{mutant.line()} {mutant.rule}"
         print(f"[{count}/{len(chosen)}] {place}: {outcome or 'SURVIVED'}", flush=True)
-        if outcome is None:
-            survivors.append(keys[id(mutant)])
-            print(survivors[-1], flush=True)
 
-    summary.show()
-    for survivor in survivors:
-        print(f"\n{survivor}")
+    show_summary(outcomes)
+    survivors = [keys[mutant] for mutant, outcome in outcomes if outcome is None]
+    print("".join(f"\n{survivor}\n" for survivor in survivors), end="")
     return 1 if survivors else 0
 
 
