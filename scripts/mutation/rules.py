@@ -123,8 +123,8 @@ def effects(code: str) -> list[tuple[int, int]]:
 UNORDERED = (
     # Each of these concerns one child, its slot and its field only.
     r"static_cast<void>\(held->release_|delete \w+_;|zorpb::(?:handOn|remakeChild)\(",
-    # Each child writes its own struct only, but for the high-pass coefficients.
-    r"zorpb::writeChild\((?!hpfCoef_)",
+    # Each writes members of its own, but for the high-pass coefficients.
+    r"zorpb::writeChild\((?!hpfCoef_)|\w+Fields::\w+\(zorpb::writing\(",
     # Each sets fields of its own.
     r"fresh->set_|\w+Fields::\w+\(zorpb::(?:loading|reading)\(",
 )
