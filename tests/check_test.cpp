@@ -295,6 +295,9 @@ TEST(Check, TellsExactlyWhatHappens) {
       ++times[finding.rule];
       EXPECT_TRUE(finding.firstIndex >= 0 || (finding.firstIndex == -1 && finding.lastIndex == -1));
       for (const auto& step : finding.steps) EXPECT_GE(step.index, -1);
+      if (finding.rule == ZorPbRule::kNotCarried && finding.firstIndex >= 0) {
+        EXPECT_EQ(finding.engine, 0);
+      }
       if (ZorPbCheck::severity(finding.rule) <= ZorPbSeverity::kError) safe = false;
     }
     EXPECT_EQ(ZorPbCheck::isSafe(msg), safe);
@@ -334,6 +337,8 @@ TEST(Check, Texts) {
         "postmix.geq10b: partial: is absent, the struct keeps what it had [absent-block]",
         "postmix.contour2.htest[3..6]: error: 3 values where the engine takes 7, the struct keeps "
         "what it had [short-source]",
+        "postmix.contour2.ref_htest[0..6]: error: 0 values where the engine takes 7, the struct "
+        "keeps what it had [short-source]",
         "postmix.hpf_coef.order: dropped: 4 is not carried, the engine gets 0 [not-carried]",
         "postmix.hpf_coef.coeffs[20]: unsafe: 1 value past the capacity of 20 is written over what "
         "follows the table [overrun]",
