@@ -245,6 +245,20 @@ TEST_F(Ownership, EqualizerCoefficients) {
   EXPECT_EQ(since(before), (Census{{"com.zor.coef.Xeq", 1}}));
 }
 
+// A child that an earlier load left writes last, over high-pass coefficients that reach so far.
+TEST_F(Ownership, FaderSettingsFromTheLoadBefore) {
+  auto s = std::make_unique<_zorOnyxPostmixApiCtrlCoeffsEx>();
+  s->fader_info = {1, 2, 3, 4, 5};
+  ZorPbPostmix wrapper(*s);
+  onyx::Postmix msg;
+  msg.mutable_hpf_coef()->mutable_coeffs()->Resize(749, -1);
+  wrapper.init(&msg);
+  wrapper.populateStruct(*s);
+  EXPECT_EQ(s->reserved[51], -1);
+  EXPECT_EQ(s->fader_info.shadow, 1);
+  EXPECT_EQ(s->fader_info.state, 5);
+}
+
 TEST_F(Ownership, AfterAFailedAllocation) {
   failEach(imm3d_);
   failEach(vantix_);

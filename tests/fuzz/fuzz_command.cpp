@@ -76,15 +76,17 @@ void write(const std::string& path, const std::string& content) {
           "a file can be written");
 }
 
-// What was built can be read again, and says the same.
+// What was built can be read again, and says the same but for what a device would not read either.
 void buildAndRead(const std::string& file, const Folder& folder) {
   const std::string built = folder.file("built.binpb");
   fs::remove(built);
-  if (run({"build", file, "-o", built}).status >= 2) {
+  const Run build = run({"build", file, "-o", built});
+  if (build.status >= 2) {
     require(!fs::exists(built), "a build that fails leaves no file");
     return;
   }
-  require(run({"diff", file, built}).status == 0, "what was built is what was read");
+  const bool isWhole = build.out.find("[unknown-field]") == std::string::npos;
+  require(run({"diff", file, built}).status == 0 || !isWhole, "what was built is what was read");
   const std::string again = folder.file("again.txtpb");
   write(again, run({"show", "--full", built}).out);
   require(run({"diff", built, again}).status == 0, "what is shown can be read again");
