@@ -186,6 +186,12 @@ TEST(CoefHpf, KeepsCoefficientsOnly) {
   EXPECT_FALSE(wrapper.hpfMsg_->has_uuid() || wrapper.hpfMsg_->has_cutoff() ||
                wrapper.hpfMsg_->has_order() || wrapper.hpfMsg_->has_sample_rate());
   EXPECT_EQ(wrapper.hpfMsg_->coeffs_size(), 25);
+
+  delete wrapper.hpfMsg_;
+  wrapper.hpfMsg_ = nullptr;
+  auto s = poisoned<_zorOnyxHpfApiCoeff>();
+  wrapper.populateStruct(*s);
+  expectImage(*s, std::vector<unsigned char>(sizeof(*s), kPoison));
 }
 
 // What passes the table's end lands in the equalizer's coefficients, after those were written.

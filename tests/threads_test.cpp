@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <cstddef>
 #include <string>
 #include <thread>
 #include <type_traits>
@@ -44,13 +45,13 @@ std::vector<std::string> everything() {
 }
 
 TEST(Threads, EachConvertsAsIfAlone) {
-  constexpr int kThreads = 8;
+  constexpr std::size_t kThreads = 8;
   constexpr int kRounds = 20;
   std::vector<std::vector<std::string>> first(kThreads);
-  std::atomic<int> ready = 0;
+  std::atomic<std::size_t> ready = 0;
   std::atomic<int> different = 0;
   std::vector<std::thread> threads;
-  for (int i = 0; i < kThreads; ++i) {
+  for (std::size_t i = 0; i < kThreads; ++i) {
     threads.emplace_back([&, i] {
       // Together, so that whatever is made at its first use is wanted by all of them.
       for (++ready; ready < kThreads;) std::this_thread::yield();
