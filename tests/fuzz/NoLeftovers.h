@@ -21,7 +21,7 @@ void releaseChild(Child* child, bool isShared) {
 template <>
 struct NoLeftovers<ZorPbPremix> : ZorPbPremix {
   using ZorPbPremix::ZorPbPremix;
-  ~NoLeftovers() {
+  ~NoLeftovers() override {
     const auto& held = dynamic_cast<const onyx::Premix&>(*msg_);
     releaseChild(leveler_, held.has_leveler());
     releaseChild(contour2_, held.has_contour2());
@@ -32,7 +32,7 @@ struct NoLeftovers<ZorPbPremix> : ZorPbPremix {
 template <>
 struct NoLeftovers<ZorPbPostmix> : ZorPbPostmix {
   using ZorPbPostmix::ZorPbPostmix;
-  ~NoLeftovers() { releaseChild(faderInfo_, true); }
+  ~NoLeftovers() override { releaseChild(faderInfo_, true); }
 };
 
 }  // namespace zortest

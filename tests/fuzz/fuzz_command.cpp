@@ -71,7 +71,7 @@ Run run(const std::vector<std::string>& arguments) {
 
 void write(const std::string& path, const std::string& content) {
   require(std::ofstream(path, std::ios::binary)
-              .write(content.data(), std::streamsize(content.size()))
+              .write(content.data(), static_cast<std::streamsize>(content.size()))
               .good(),
           "a file can be written");
 }
