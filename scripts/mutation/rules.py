@@ -262,7 +262,8 @@ def cmake_edits(text: str, _text: str) -> Iterator[Edit]:
 
 SOURCES = ("jni/*.h", "jni/*.cpp", "check/*.h", "check/*.cpp", "cmake/registration.cc.in")
 CMAKE_SOURCE = "cmake/ZorcsAdaptGenerated.cmake"
-ASSERTIONS = "jni/ZorEngineLayout.cpp"  # compile-time assertions and nothing else
+# Compile-time assertions and nothing else.
+ASSERTIONS = ("jni/ZorEngineLayout.cpp", "jni/ZorPbLayout.cpp")
 
 
 def enums_of(codes: Iterator[str]) -> dict[str, list[str]]:
@@ -277,7 +278,8 @@ def mutants(root: Path) -> list[Mutant]:
     """Every mutant there is, by file, then by place."""
     files = [path for pattern in SOURCES for path in sorted(root.glob(pattern))]
     texts = {path.relative_to(root).as_posix(): path.read_text() for path in files}
-    del texts[ASSERTIONS]
+    for assertions in ASSERTIONS:
+        del texts[assertions]
     enums = enums_of(code_of(text) for text in texts.values())
 
     rules: tuple[Callable[[str, str], Iterator[Edit]], ...] = (
