@@ -48,8 +48,10 @@ endforeach()
 
 if(ZORCS_BUILD_TOOLS)
   install(TARGETS zorcs-cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
-  install(FILES ${PROJECT_SOURCE_DIR}/tools/zorcs.1
-    DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
+  if(NOT ZORCS_PACKAGING)  # which brings it compressed
+    install(FILES ${PROJECT_SOURCE_DIR}/tools/zorcs.1
+      DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
+  endif()
   install(FILES ${PROJECT_SOURCE_DIR}/tools/zorcs.bash
     DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
     RENAME zorcs COMPONENT tools)

@@ -1,5 +1,5 @@
 # The projects of tests/consumers, each built in a folder of its own below the one given, and run.
-# To be sourced after common.sh.
+# To be sourced after common.sh, from bash.
 
 consumer_expected="postmix_gain 7, orb_input_gain[1] -2; postmix.orb_input_gain[2..5]: partial: \
 2 values for 6, the struct keeps what it had [list-short]"
