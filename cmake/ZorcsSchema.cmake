@@ -1,5 +1,10 @@
 # zorcs_messages: the message classes, generated from proto/*.proto into <build>/proto/gen and
 # adapted there by ZorcsAdaptGenerated.cmake.
+# A cross build runs the host's protobuf compiler, never one that came with the target's libraries.
+if(CMAKE_CROSSCOMPILING)
+  find_program(Protobuf_PROTOC_EXECUTABLE protoc
+    NO_CMAKE_PATH NO_CMAKE_ENVIRONMENT_PATH NO_CMAKE_FIND_ROOT_PATH)
+endif()
 find_package(Protobuf 3.21 REQUIRED)
 include(GenerateExportHeader)
 
