@@ -30,6 +30,10 @@ need() {
     apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
+# What the benchmarks are built with, the peers and callgrind among it.
+bench_packages=(libbenchmark-dev nanopb libnanopb-dev protobuf-c-compiler libprotobuf-c-dev
+  libprotozero-dev valgrind)
+
 need_build_tools() { need g++ cmake ninja-build protobuf-compiler libprotobuf-dev zlib1g-dev "$@"; }
 
 # build PRESET [TARGET...]
