@@ -25,7 +25,7 @@ struct Input {
 };
 
 // Enough for any struct written as a message.
-constexpr std::size_t kBytesCapacity = 128 * 1024;
+constexpr std::size_t kBytesCapacity = std::size_t{128} * 1024;
 
 // The message that bytes hold; ends the program when they hold none.
 Postmix parse(const std::string& bytes);

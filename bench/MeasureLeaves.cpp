@@ -65,7 +65,7 @@ BY_HAND(BENCH_FADER_INFO, com::zor::onyx::fxp_std::FaderInfo, _zorOnyxFaderInfo)
 constexpr int kXeqWords = sizeof(_zorXeqApiCoeff) / sizeof(int32_t);
 
 void read(const _zorXeqApiCoeff& from, com::zor::coef::Xeq& to) {
-  const int32_t* const words = reinterpret_cast<const int32_t*>(&from);
+  const auto* const words = reinterpret_cast<const int32_t*>(&from);
   to.set_uuid(kNoUuid);
   to.set_sample_rate(kSampleRateHz);
   to.mutable_coeffs()->Add(words, words + kXeqWords);
@@ -182,7 +182,9 @@ void addLeaf(const std::string& name, Table& table) {
 }  // namespace
 
 void addLeaves(Table& table) {
-  using namespace com::zor;
+  namespace tech = com::zor::tech;
+  namespace coef = com::zor::coef;
+  using com::zor::onyx::fxp_std::FaderInfo;
   addLeaf<ZorPbTechImm3d, tech::Imm3d, _zorImm3dApiCtrl>("Imm3d", table);
   addLeaf<ZorPbTechExpanse, tech::Expanse, _zorExpanseApiCtrl>("Expanse", table);
   addLeaf<ZorPbTechDeep, tech::Deep, _zorDeepApiCtrl>("Deep", table);
@@ -191,7 +193,7 @@ void addLeaves(Table& table) {
   addLeaf<ZorPbTechGeq10b, tech::Geq10b, _zorGeq10bApiCtrl>("Geq10b", table);
   addLeaf<ZorPbTechOrb, tech::Orb, _zorOrbApiCtrl>("Orb", table);
   addLeaf<ZorPbTechLeveler, tech::Leveler, _zorLevelerApiCtrl>("Leveler", table);
-  addLeaf<ZorPbFaderInfo, onyx::fxp_std::FaderInfo, _zorOnyxFaderInfo>("FaderInfo", table);
+  addLeaf<ZorPbFaderInfo, FaderInfo, _zorOnyxFaderInfo>("FaderInfo", table);
   addLeaf<ZorPbCoefXeq, coef::Xeq, _zorXeqApiCoeff>("CoefXeq", table);
 
   auto deep = filled<_zorDeepApiCoeffEx>();

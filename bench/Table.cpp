@@ -101,19 +101,20 @@ void Table::writeCsv(std::ostream& os) const {
   os << "input,road,nanoseconds,base,ratio,target\n";
   for (const Key& road : order_) {
     if (median(road) <= 0) continue;
-    os << road.first << "," << road.second << "," << median(road) << ",,,\n";
+    os << std::quoted(road.first) << "," << std::quoted(road.second) << "," << median(road)
+       << ",,,\n";
   }
   for (const Ratio& row : ratios_) {
     if (ratio(row) <= 0) continue;
-    os << row.road.first << "," << row.road.second << "," << median(row.road) << "," << row.base
-       << "," << ratio(row) << ",";
+    os << std::quoted(row.road.first) << "," << std::quoted(row.road.second) << ","
+       << median(row.road) << "," << std::quoted(row.base) << "," << ratio(row) << ",";
     if (row.target > 0) os << row.target;
     os << "\n";
   }
   os << "\ninput,road,allocations,bytes,peak bytes\n";
   for (const auto& [road, heap] : heaps_) {
-    os << road.first << "," << road.second << "," << heap.allocations << "," << heap.bytes << ","
-       << heap.peak << "\n";
+    os << std::quoted(road.first) << "," << std::quoted(road.second) << "," << heap.allocations
+       << "," << heap.bytes << "," << heap.peak << "\n";
   }
 }
 

@@ -20,6 +20,7 @@ int main(int argc, char** argv) {
                                       "--benchmark_min_time=0.02"};
   options.insert(options.end(), argv + 1, argv + argc);
   std::vector<char*> pointers;
+  pointers.reserve(options.size() + 1);
   for (std::string& option : options) pointers.push_back(option.data());
   pointers.push_back(nullptr);
   int count = static_cast<int>(options.size());

@@ -9,7 +9,7 @@
 #include "FieldsByHand.h"
 #include "ZorEngineStructs.h"
 
-namespace {
+namespace zorbench {
 
 // At most n elements: what the engine's array holds.
 template <class Count, std::size_t n>
@@ -60,7 +60,7 @@ void setPostmix(const Struct& from, Message& to) {
   BENCH_POSTMIX_TABLES(PEER_SET_LIST)
 }
 
-constexpr std::size_t kXeqWords = sizeof(_zorXeqApiCoeff) / sizeof(int32_t);
+inline constexpr std::size_t kXeqWords = sizeof(_zorXeqApiCoeff) / sizeof(int32_t);
 
 template <class Count>
 void takeXeqCoef(const int32_t* from, Count count, _zorXeqApiCoeff& to) {
@@ -74,4 +74,4 @@ void takeHpfCoef(const Message& from, _zorOnyxHpfApiCoeff& to) {
   TAKE_LIST(5, coeffs)
 }
 
-}  // namespace
+}  // namespace zorbench

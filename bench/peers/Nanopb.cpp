@@ -13,9 +13,8 @@
 
 #include "CopyByHand.h"
 
+namespace zorbench {
 namespace {
-
-using zorbench::Engine;
 
 // Where lists are static arrays a message is too large for a stack.
 com_zor_onyx_fxp_std_Postmix message;
@@ -64,8 +63,8 @@ std::size_t toBytes(const Engine& from, uint8_t* to, std::size_t capacity) {
   setOrb(from.orb, message.orb);
   message.has_hpf_coef = false;
   message.has_xeq_coef = true;
-  std::copy_n(zorbench::kNoUuid, sizeof(zorbench::kNoUuid), message.xeq_coef.uuid);
-  message.xeq_coef.sample_rate = zorbench::kSampleRateHz;
+  std::copy_n(kNoUuid, sizeof(kNoUuid), message.xeq_coef.uuid);
+  message.xeq_coef.sample_rate = kSampleRateHz;
   message.xeq_coef.coeffs_count = kXeqWords;
   std::copy_n(reinterpret_cast<const int32_t*>(&from.xeq_coef), kXeqWords, message.xeq_coef.coeffs);
   message.has_fader_info = true;
@@ -78,4 +77,6 @@ std::size_t toBytes(const Engine& from, uint8_t* to, std::size_t capacity) {
 
 }  // namespace
 
-const zorbench::Peer zorbench::kNanopb = {"nanopb", toStruct, toBytes};
+const Peer kNanopb = {"nanopb", toStruct, toBytes};
+
+}  // namespace zorbench

@@ -13,9 +13,8 @@
 
 #include "CopyByHand.h"
 
+namespace zorbench {
 namespace {
-
-using zorbench::Engine;
 using Message = Com__Zor__Onyx__FxpStd__Postmix;
 
 // As the other roads do it, so that what it allocates can be counted with theirs.
@@ -89,8 +88,8 @@ std::size_t toBytes(const Engine& from, uint8_t* to, std::size_t capacity) {
   message.orb = &orb;
   Com__Zor__Coef__Xeq xeqCoef;
   com__zor__coef__xeq__init(&xeqCoef);
-  xeqCoef.uuid = const_cast<char*>(zorbench::kNoUuid);
-  xeqCoef.sample_rate = zorbench::kSampleRateHz;
+  xeqCoef.uuid = const_cast<char*>(kNoUuid);
+  xeqCoef.sample_rate = kSampleRateHz;
   xeqCoef.n_coeffs = kXeqWords;
   xeqCoef.coeffs = reinterpret_cast<int32_t*>(const_cast<_zorXeqApiCoeff*>(&from.xeq_coef));
   message.xeq_coef = &xeqCoef;
@@ -106,4 +105,6 @@ std::size_t toBytes(const Engine& from, uint8_t* to, std::size_t capacity) {
 
 }  // namespace
 
-const zorbench::Peer zorbench::kProtobufC = {"protobuf-c and copy", toStruct, toBytes};
+const Peer kProtobufC = {"protobuf-c and copy", toStruct, toBytes};
+
+}  // namespace zorbench

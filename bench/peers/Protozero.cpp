@@ -112,7 +112,7 @@ void write(Writer writer, const _zorVantixApiCtrl& from) {
 }
 
 void read(pbf_reader reader, _zorXeqApiCoeff& to) {
-  int32_t* const words = reinterpret_cast<int32_t*>(&to);
+  auto* const words = reinterpret_cast<int32_t*>(&to);
   std::size_t filled = 0;
   while (reader.next(4)) {
     for (const int32_t value : reader.get_packed_sint32()) {
@@ -122,7 +122,7 @@ void read(pbf_reader reader, _zorXeqApiCoeff& to) {
 }
 
 void write(Writer writer, const _zorXeqApiCoeff& from) {
-  const int32_t* const words = reinterpret_cast<const int32_t*>(&from);
+  const auto* const words = reinterpret_cast<const int32_t*>(&from);
   writer.add_string(1, zorbench::kNoUuid);
   writer.add_sint32(2, zorbench::kSampleRateHz);
   writer.add_packed_sint32(4, words, words + sizeof(from) / sizeof(int32_t));
