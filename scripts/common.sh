@@ -49,5 +49,5 @@ build() {
 build_and_test() {
   build "$1"
   say "Testing ($1)"
-  ctest --preset "$1"
+  ctest --preset "$1" --parallel "$(nproc)"
 }
