@@ -13,7 +13,7 @@ ZorPbCoefHpf::ZorPbCoefHpf(const Hpf* msg) { init(msg); }
 ZorPbCoefHpf::~ZorPbCoefHpf() { delete hpfMsg_; }
 
 void ZorPbCoefHpf::init(const Hpf* msg) {
-  std::unique_ptr<Hpf> fresh(msg->New());
+  auto fresh = std::make_unique<Hpf>();
   CoefHpfFields::each(zorpb::loading(*msg, *fresh));
   // The message held before stays behind, as after any load from a message.
   hpfMsg_ = fresh.release();

@@ -24,7 +24,7 @@ ZorPbCoefXeq::ZorPbCoefXeq(const _zorXeqApiCoeff& s) { init(s); }
 ZorPbCoefXeq::~ZorPbCoefXeq() = default;
 
 void ZorPbCoefXeq::init(const Xeq* msg) {
-  std::unique_ptr<Xeq> fresh(msg->New());
+  auto fresh = std::make_unique<Xeq>();
   fresh->set_uuid(msg->uuid());
   fresh->set_sample_rate(msg->sample_rate());
   CoefXeqFields::each(zorpb::loading(*msg, *fresh));

@@ -4,12 +4,15 @@
 #include <google/protobuf/message_lite.h>
 
 #include <memory>
+#include <type_traits>
+#include <typeinfo>
 
 namespace zorpb {
 
-// What a field list is visited with, one for each direction.
+// What a field list is visited with, one for each direction. Two messages of one type look alike to
+// the compiler: told that they are not the same one, it copies a run of scalars at once.
 template <class M>
-auto loading(const M& from, M& to) {
+auto loading(const M& __restrict from, M& __restrict to) {
   return [&from, &to](auto field) { field.load(from, to); };
 }
 template <class S, class M>
@@ -21,10 +24,12 @@ auto writing(const M& from, S& to) {
   return [&from, &to](auto field) { field.write(from, to); };
 }
 
-// The held message as M; null when there is none or it is of another type.
+// The held message as M; null when there is none or it is of another type. Nothing derives from a
+// message class, so that comparing types tells what dynamic_cast would search for.
 template <class M>
 M* heldAs(google::protobuf::MessageLite* held) {
-  return dynamic_cast<M*>(held);
+  static_assert(std::is_final_v<M>);
+  return held != nullptr && typeid(*held) == typeid(M) ? static_cast<M*>(held) : nullptr;
 }
 
 // Releases the held message before its successor is built.
@@ -39,7 +44,7 @@ inline void discard(google::protobuf::MessageLite*& held) {
 // load, or a parent message that shares it, may still read it.
 template <class Fields>
 void holdCopy(const typename Fields::Message& from, google::protobuf::MessageLite*& held) {
-  std::unique_ptr<typename Fields::Message> fresh(from.New());
+  auto fresh = std::make_unique<typename Fields::Message>();
   Fields::each(loading(from, *fresh));
   held = fresh.release();
 }

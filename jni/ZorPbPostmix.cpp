@@ -85,7 +85,7 @@ ZorPbPostmix::~ZorPbPostmix() {
 }
 
 void ZorPbPostmix::init(const Postmix* msg) {
-  std::unique_ptr<Postmix> fresh(msg->New());
+  auto fresh = std::make_unique<Postmix>();
   PostmixFields::controls(zorpb::loading(*msg, *fresh));
 
   // What an earlier load made stays behind: its message, which may share nested messages with its

@@ -21,7 +21,7 @@ ZorPbPremix::ZorPbPremix(const _zorOnyxPremixApiCtrlEx& s) { init(s); }
 ZorPbPremix::~ZorPbPremix() = default;
 
 void ZorPbPremix::init(const Premix* msg) {
-  std::unique_ptr<Premix> fresh(msg->New());
+  auto fresh = std::make_unique<Premix>();
   PremixFields::controls(zorpb::loading(*msg, *fresh));
 
   // What an earlier load made stays behind: its message, which may share nested messages with its

@@ -29,7 +29,7 @@ ZorPbTechVantix::~ZorPbTechVantix() {
 }
 
 void ZorPbTechVantix::init(const Vantix* msg) {
-  std::unique_ptr<Vantix> fresh(msg->New());
+  auto fresh = std::make_unique<Vantix>();
   TechVantixFields::controls(zorpb::loading(*msg, *fresh));
 
   // What an earlier load made stays behind: its message, which may share nested messages with its
