@@ -57,8 +57,4 @@ target_include_directories(zorcs_messages SYSTEM PUBLIC $<BUILD_INTERFACE:${ZORC
 target_link_libraries(zorcs_messages
   PUBLIC protobuf::libprotobuf-lite
   PRIVATE zorcs_sanitizers)
-set_target_properties(zorcs_messages PROPERTIES
-  POSITION_INDEPENDENT_CODE ON
-  CXX_EXTENSIONS OFF
-  CXX_VISIBILITY_PRESET hidden
-  VISIBILITY_INLINES_HIDDEN ON)
+zorcs_library_code(zorcs_messages)
