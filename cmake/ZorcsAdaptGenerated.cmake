@@ -3,7 +3,9 @@
 # - a parse drops what it does not know: unknown fields, and enum values out of range. The runtime
 #   would keep both and write them back. Its unknown-field parser takes a null sink, and means by it
 #   "drop";
-# - the file has its registration functions, and a static registrar that calls them at load.
+# - the file has its registration functions, and a static registrar that calls them at load;
+# - a list that comes one element at a time, as the large tables do, gets room at once for what the
+#   engine takes of it. By itself it would double, step by step, to twice what a full table needs.
 #
 # Takes SCHEMA (a name without extension), PROTO_DIR, RAW_DIR (the compiler's output) and
 # GENERATED_DIR (where the adapted sources go). It counts what it changes against the schema and
@@ -66,6 +68,22 @@ string(REGEX REPLACE
 expect_count("${source}" "${dropped}" ${enum_field_count} "enum values that drop")
 
 expect_count("${source}" "mutable_unknown_fields" 0 "unknown-field sinks left over")
+
+# Room for lists that are not packed, and never for more elements than the bytes that are left can
+# hold: one takes two bytes of tag, as field numbers from 16 on do, and at least one of value.
+file(READ ${CMAKE_CURRENT_LIST_DIR}/../jni/ZorEngineStructs.h structs)
+string(REGEX MATCHALL "repeated +sint32 +[A-Za-z0-9_]+ = [0-9]+;" lists "${proto}")
+foreach(list IN LISTS lists)
+  string(REGEX REPLACE ".* ([A-Za-z0-9_]+) = .*" "\\1" list "${list}")
+  if(NOT structs MATCHES " ${list}\\[([0-9]+)\\];")
+    continue()
+  endif()
+  set(room "std::min(1 + ctx->BytesUntilLimit(ptr) / 3, ${CMAKE_MATCH_1})")
+  set(loop "ptr -= 2;\n          do {\n            ptr += 2;\n            _internal_add_${list}(")
+  expect_count("${source}" "${loop}" 1 "loops that add to ${list}")
+  string(REPLACE "${loop}" "_internal_mutable_${list}()->Reserve(${room});\n          ${loop}"
+         source "${source}")
+endforeach()
 
 # Registration: the functions in the package's namespace, the imports in their order.
 set(IMPORT_CALLS "")

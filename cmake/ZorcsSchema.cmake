@@ -23,6 +23,7 @@ file(MAKE_DIRECTORY ${ZORCS_GENERATED_DIR} ${zorcs_raw_dir})
 set(zorcs_adapt_script ${CMAKE_CURRENT_LIST_DIR}/ZorcsAdaptGenerated.cmake)
 set(zorcs_adapt_inputs
   ${zorcs_adapt_script}
+  ${CMAKE_CURRENT_SOURCE_DIR}/jni/ZorEngineStructs.h
   ${CMAKE_CURRENT_LIST_DIR}/ZorcsReadSchema.cmake
   ${CMAKE_CURRENT_LIST_DIR}/registration.h.in
   ${CMAKE_CURRENT_LIST_DIR}/registration.cc.in)

@@ -260,5 +260,21 @@ TEST(Schema, PackedAndUnpackedParseAlike) {
   EXPECT_EQ(written(one), written(each));
 }
 
+// A full table gets its room in one piece, a short one no more than its bytes could need.
+TEST(Schema, ParseMakesRoomForTheTables) {
+  onyx::Postmix full;
+  full.mutable_room_multi_ch()->Resize(8210, 1);
+  full.mutable_hpeq_coeffs()->Resize(3, -1);
+  onyx::Postmix parsed;
+  ASSERT_TRUE(parsed.ParseFromString(written(full)));
+  EXPECT_EQ(parsed.room_multi_ch().Capacity(), 8210);
+  EXPECT_EQ(parsed.hpeq_coeffs_size(), 3);
+  EXPECT_LE(parsed.hpeq_coeffs().Capacity(), 4);
+
+  full.add_room_multi_ch(2);
+  ASSERT_TRUE(parsed.ParseFromString(written(full)));
+  EXPECT_EQ(written(parsed), written(full));
+}
+
 }  // namespace
 }  // namespace zortest
