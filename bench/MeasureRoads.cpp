@@ -49,6 +49,9 @@ void addToStruct(const Input& input, Table& table) {
   table.measure(in->name, "bare parse", [in](benchmark::State& state) {
     for (auto _ : state) roads::bareParse(in->bytes);
   });
+  table.measure(in->name, "parse and copy", [in](benchmark::State& state) {
+    for (auto _ : state) roads::parseAndCopy(in->bytes);
+  });
   const auto to = std::make_shared<Engine>();
   table.measure(in->name, "bytes to struct", [in, to](benchmark::State& state) {
     for (auto _ : state) {
@@ -57,6 +60,7 @@ void addToStruct(const Input& input, Table& table) {
     }
   });
   table.compare(in->name, "bytes to struct", "bare parse", kBytesToStruct);
+  table.compare(in->name, "bytes to struct", "parse and copy");
   for (const Peer* peer : {&kProtozero, &kNanopb, &kProtobufC}) {
     const std::string name = std::string("bytes to struct, ") + peer->name;
     table.measure(in->name, name, [in, to, peer](benchmark::State& state) {

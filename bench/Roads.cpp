@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include <cstring>
+#include <memory>
 #include <new>
 
 #include "ZorPbPostmix.h"
@@ -61,6 +62,13 @@ void roads::bareParse(const std::string& bytes) {
   Postmix message;
   if (!message.ParsePartialFromString(bytes)) fail("the bytes of an input are no message");
   benchmark::DoNotOptimize(message);
+}
+
+void roads::parseAndCopy(const std::string& bytes) {
+  Postmix message;
+  if (!message.ParsePartialFromString(bytes)) fail("the bytes of an input are no message");
+  const auto copy = std::make_unique<Postmix>(message);
+  benchmark::DoNotOptimize(copy.get());
 }
 
 void floors::copyOnce(const Engine& from) {

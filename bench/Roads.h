@@ -21,6 +21,8 @@ void bytesToStruct(const std::string& bytes, Engine& to);
 std::size_t structToBytes(const Engine& from, uint8_t* to);
 
 void bareParse(const std::string& bytes);
+// The parse, and the runtime's own copy of what it gave: a wrapper has to hold a copy, too.
+void parseAndCopy(const std::string& bytes);
 
 }  // namespace roads
 
