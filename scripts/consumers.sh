@@ -41,6 +41,26 @@ consumer_pkg_config() {
   run_consumer "$1/consumers/pkg_config/consumer"
 }
 
+# The project that README shows, as it stands there: its program, its CMakeLists.txt and its line for
+# pkg-config.
+consumer_of_readme() {
+  local library
+  say "The project that README shows"
+  rm -rf -- "$1/readme"
+  mkdir "$1/readme"
+  awk -v folder="$1/readme" -f tests/docs/blocks.awk README.md
+  (
+    cd "$1/readme"
+    cmake -S . -B build -G Ninja >/dev/null
+    cmake --build build -- --quiet
+    sh -eu pkg-config.sh
+    for library in build/libhal.so libhal.so; do
+      ldd -r "$library" 2>&1 | tee links | grep 'libzorcs-check[.]so.*=> /'
+      if grep -e 'not found' -e undefined links; then exit 1; fi
+    done
+  )
+}
+
 # Builds the libraries anew, from a copy of what stands in the tree under version control.
 consumer_add_subdirectory() {
   mkdir "$1/source"
