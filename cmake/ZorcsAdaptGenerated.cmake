@@ -5,7 +5,8 @@
 #   "drop";
 # - the file has its registration functions, and a static registrar that calls them at load;
 # - a list that comes one element at a time, as the large tables do, gets room at once for what the
-#   engine takes of it. By itself it would double, step by step, to twice what a full table needs.
+#   engine takes of it, and its values are read in line. By itself it would double, step by step, to
+#   twice what a full table needs, and call a function for most values.
 #
 # Takes SCHEMA (a name without extension), PROTO_DIR, RAW_DIR (the compiler's output) and
 # GENERATED_DIR (where the adapted sources go). It counts what it changes against the schema and
@@ -69,22 +70,6 @@ expect_count("${source}" "${dropped}" ${enum_field_count} "enum values that drop
 
 expect_count("${source}" "mutable_unknown_fields" 0 "unknown-field sinks left over")
 
-# Room for lists that are not packed, and never for more elements than the bytes that are left can
-# hold: one takes two bytes of tag, as field numbers from 16 on do, and at least one of value.
-file(READ ${CMAKE_CURRENT_LIST_DIR}/../jni/ZorEngineStructs.h structs)
-string(REGEX MATCHALL "repeated +sint32 +[A-Za-z0-9_]+ = [0-9]+;" lists "${proto}")
-foreach(list IN LISTS lists)
-  string(REGEX REPLACE ".* ([A-Za-z0-9_]+) = .*" "\\1" list "${list}")
-  if(NOT structs MATCHES " ${list}\\[([0-9]+)\\];")
-    continue()
-  endif()
-  set(room "std::min(1 + ctx->BytesUntilLimit(ptr) / 3, ${CMAKE_MATCH_1})")
-  set(loop "ptr -= 2;\n          do {\n            ptr += 2;\n            _internal_add_${list}(")
-  expect_count("${source}" "${loop}" 1 "loops that add to ${list}")
-  string(REPLACE "${loop}" "_internal_mutable_${list}()->Reserve(${room});\n          ${loop}"
-         source "${source}")
-endforeach()
-
 # Registration: the functions in the package's namespace, the imports in their order.
 set(IMPORT_CALLS "")
 string(REGEX MATCHALL "import +\"[A-Za-z0-9_]+\\.proto\"" imports "${proto}")
@@ -100,6 +85,29 @@ function(insert_at point text_variable inserted)
   string(REPLACE "${marker}" "${inserted}${marker}" text "${${text_variable}}")
   set(${text_variable} "${text}" PARENT_SCOPE)
 endfunction()
+
+# The tables: room, and values read in line. Room never for more elements than the bytes that are left
+# can hold: one takes two bytes of tag, as field numbers from 16 on do, and at least one of value.
+file(READ ${CMAKE_CURRENT_LIST_DIR}/../jni/ZorEngineStructs.h structs)
+string(REPLACE ";" "|" statements "${proto}")
+string(REGEX MATCHALL "repeated +sint32 +[A-Za-z0-9_]+ = [0-9]+[|]" tables "${statements}")
+foreach(table IN LISTS tables)
+  string(REGEX REPLACE ".* ([A-Za-z0-9_]+) = .*" "\\1" table "${table}")
+  if(NOT structs MATCHES " ${table}\\[([0-9]+)\\];")
+    message(FATAL_ERROR "${SCHEMA}.proto: ${table} is not packed and no array of the engine's")
+  endif()
+  set(room "std::min(1 + ctx->BytesUntilLimit(ptr) / 3, ${CMAKE_MATCH_1})")
+  set(loop "ptr -= 2;\n          do {\n            ptr += 2;\n            _internal_add_${table}(")
+  set(value "::PROTOBUF_NAMESPACE_ID::internal::ReadVarintZigZag32(&ptr)")
+  expect_count("${source}" "${loop}${value}" 1 "loops that add to ${table}")
+  string(REPLACE "${loop}${value}"
+    "_internal_mutable_${table}()->Reserve(${room});\n          ${loop}ReadTableValue(&ptr)"
+    source "${source}")
+endforeach()
+if(tables)
+  file(READ ${CMAKE_CURRENT_LIST_DIR}/table_value.cc.in value_reader)
+  insert_at(includes source "${value_reader}")
+endif()
 
 file(READ ${CMAKE_CURRENT_LIST_DIR}/registration.h.in declarations)
 string(CONFIGURE "${declarations}" declarations @ONLY)

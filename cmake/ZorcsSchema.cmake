@@ -26,7 +26,8 @@ set(zorcs_adapt_inputs
   ${CMAKE_CURRENT_SOURCE_DIR}/jni/ZorEngineStructs.h
   ${CMAKE_CURRENT_LIST_DIR}/ZorcsReadSchema.cmake
   ${CMAKE_CURRENT_LIST_DIR}/registration.h.in
-  ${CMAKE_CURRENT_LIST_DIR}/registration.cc.in)
+  ${CMAKE_CURRENT_LIST_DIR}/registration.cc.in
+  ${CMAKE_CURRENT_LIST_DIR}/table_value.cc.in)
 list(TRANSFORM ZORCS_SCHEMA_FILES REPLACE "(.+)" "${ZORCS_PROTO_DIR}/\\1.proto"
      OUTPUT_VARIABLE ZORCS_PROTO_FILES)
 

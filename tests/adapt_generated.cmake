@@ -52,5 +52,5 @@ expect_stop(peq.pb.h "insertion_point(namespace_scope)" "other"
             "insertion points 'namespace_scope': 0 found, 1 expected")
 expect_stop(peq.pb.cc "insertion_point(namespace_scope)" "other"
             "insertion points 'namespace_scope': 0 found, 1 expected")
-expect_stop(onyx.pb.cc "_internal_add_hpeq_coeffs(:" "other(:"
+expect_stop(onyx.pb.cc "_internal_add_hpeq_coeffs(" "other("
             "loops that add to hpeq_coeffs: 0 found, 1 expected")

@@ -260,6 +260,25 @@ TEST(Schema, PackedAndUnpackedParseAlike) {
   EXPECT_EQ(written(one), written(each));
 }
 
+// A table's values come one by one through the library's own reader, packed through the runtime's:
+// in every length, padded, with bits past the 32nd, cut off at the end.
+TEST(Schema, TablesReadValuesAsTheRuntimeDoes) {
+  const std::string tag = Wire().varint(22, 0).bytes().substr(0, 2);
+  for (const char body : {'\x80', '\xFF', '\xA5'}) {
+    for (const char last : {'\x00', '\x01', '\x7F', '\x8F'}) {
+      for (std::size_t length = 1; length <= 11; ++length) {
+        const std::string value = std::string(length - 1, body) + last;
+        onyx::Postmix each;
+        onyx::Postmix packed;
+        const bool taken = each.ParseFromString(tag + value);
+        ASSERT_EQ(taken, packed.ParseFromString(Wire().text(22, value).bytes()));
+        EXPECT_EQ(taken, last != '\x8F' && length <= 10);
+        EXPECT_TRUE(!taken || written(each) == written(packed)) << length << " bytes " << int{body};
+      }
+    }
+  }
+}
+
 // A full table gets its room in one piece, a short one no more than its bytes could need.
 TEST(Schema, ParseMakesRoomForTheTables) {
   onyx::Postmix full;
