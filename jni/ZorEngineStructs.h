@@ -1,14 +1,15 @@
-// The plain structs that the audio engine takes: its binary interface, valid as C and as C++.
-//
-// Member order and widths are the engine's and must not change; ZorEngineLayout.cpp holds every
-// size and offset to account. All values are signed fixed-width integers in the machine's own byte
-// order. The structs carry no element counts: every array is full-length by definition. Units,
-// ranges and fixed-point formats are the engine's.
+/// \file
+/// The plain structs that the audio engine takes: its binary interface, valid as C and as C++.
+///
+/// Member order and widths are the engine's and must not change; ZorEngineLayout.cpp holds every
+/// size and offset to account. All values are signed fixed-width integers in the machine's own byte
+/// order. The structs carry no element counts: every array is full-length by definition. Units,
+/// ranges and fixed-point formats are the engine's.
 #pragma once
 
 #include <stdint.h>
 
-// 3-D spatial enhancement controls.
+/// 3-D spatial enhancement controls.
 struct _zorImm3dApiCtrl {
   int32_t enable;
   int32_t mode;
@@ -21,7 +22,7 @@ struct _zorImm3dApiCtrl {
   int16_t center_level;
 };
 
-// Wide-surround controls.
+/// Wide-surround controls.
 struct _zorExpanseApiCtrl {
   int32_t enable;
   int32_t hs_hpf_enable;
@@ -31,7 +32,7 @@ struct _zorExpanseApiCtrl {
   int16_t speaker_separation_level;
 };
 
-// Bass enhancement controls.
+/// Bass enhancement controls.
 struct _zorDeepApiCtrl {
   int32_t enable;
   int32_t mode;
@@ -49,7 +50,7 @@ struct _zorDeepApiCtrl {
   int16_t bass_clarity_level;
 };
 
-// Speaker virtualizer: the three technologies that it bundles, then its own controls.
+/// Speaker virtualizer: the three technologies that it bundles, then its own controls.
 struct _zorVantixApiCtrl {
   struct _zorImm3dApiCtrl imm3d;
   struct _zorExpanseApiCtrl expanse;
@@ -67,7 +68,7 @@ struct _zorVantixApiCtrl {
   int16_t focus_level;
 };
 
-// Parametric equalizer controls.
+/// Parametric equalizer controls.
 struct _zorXeqApiCtrl {
   int32_t enable;
   int16_t input_gain;
@@ -75,7 +76,7 @@ struct _zorXeqApiCtrl {
   int16_t bypass_gain;
 };
 
-// Loudness and speaker enhancement controls.
+/// Loudness and speaker enhancement controls.
 struct _zorContour2ApiCtrl {
   int32_t mode;
   int32_t mv_downstream;
@@ -91,7 +92,7 @@ struct _zorContour2ApiCtrl {
   int32_t max_lf_boost;
 };
 
-// Ten-band graphic equalizer controls, lowest band first.
+/// Ten-band graphic equalizer controls, lowest band first.
 struct _zorGeq10bApiCtrl {
   int32_t enable;
   int16_t input_gain;
@@ -107,7 +108,7 @@ struct _zorGeq10bApiCtrl {
   int16_t band9_gain;
 };
 
-// Headphone virtualizer controls; every scalar is 32 bits wide, input_gain included.
+/// Headphone virtualizer controls; every scalar is 32 bits wide, input_gain included.
 struct _zorOrbApiCtrl {
   int32_t downmix;
   int32_t super_stereo;
@@ -118,7 +119,7 @@ struct _zorOrbApiCtrl {
   int32_t super_stereo_coef[4];
 };
 
-// Volume leveler controls.
+/// Volume leveler controls.
 struct _zorLevelerApiCtrl {
   int32_t enable;
   int32_t intensity_level;
@@ -128,34 +129,34 @@ struct _zorLevelerApiCtrl {
   int16_t lkfs_gain;
 };
 
-// One half of the equalizer coefficients: 336 words.
+/// One half of the equalizer coefficients: 336 words.
 struct _zorXeqApiCoeffBlock {
   int32_t head[2];
   int32_t table_a[74];
   int32_t table_b[260];
 };
 
-// Equalizer coefficients: 672 words.
+/// Equalizer coefficients: 672 words.
 struct _zorXeqApiCoeff {
   struct _zorXeqApiCoeffBlock block[2];
 };
 
-// High-pass coefficients. ZorPbCoefHpf::populateStruct does not stop at the end of coeffs.
+/// High-pass coefficients. ZorPbCoefHpf::populateStruct does not stop at the end of coeffs.
 struct _zorOnyxHpfApiCoeff {
   int32_t order;
   int32_t coeffs[20];
 };
 
-// Bass enhancement coefficients.
+/// Bass enhancement coefficients.
 struct _zorDeepApiCoeffEx {
   int32_t speaker_size;
   int32_t analysis_size;
   int32_t coeffs[24];
-  const char* uuid;     // NUL-terminated textual UUID; borrowed, never owned by the struct
-  int32_t sample_rate;  // Hz
+  const char* uuid;     ///< NUL-terminated textual UUID; borrowed, never owned by the struct
+  int32_t sample_rate;  ///< Hz
 };
 
-// Fader settings; the lengths stand in the order out, hold, in.
+/// Fader settings; the lengths stand in the order out, hold, in.
 struct _zorOnyxFaderInfo {
   int32_t shadow;
   int32_t out_length;
@@ -164,7 +165,7 @@ struct _zorOnyxFaderInfo {
   int32_t state;
 };
 
-// Everything the pre-mix stage takes.
+/// Everything the pre-mix stage takes.
 struct _zorOnyxPremixApiCtrlEx {
   struct _zorLevelerApiCtrl leveler;
   struct _zorContour2ApiCtrl contour2;
@@ -173,7 +174,7 @@ struct _zorOnyxPremixApiCtrlEx {
   struct _zorOnyxFaderInfo fader_info;
 };
 
-// Everything the post-mix stage takes. The per-channel lists have one entry a channel.
+/// Everything the post-mix stage takes. The per-channel lists have one entry a channel.
 struct _zorOnyxPostmixApiCtrlCoeffsEx {
   int32_t output_device;
   int32_t postmix_gain;
@@ -196,6 +197,6 @@ struct _zorOnyxPostmixApiCtrlCoeffsEx {
   int32_t hpeq_coeffs[135];
   struct _zorOnyxHpfApiCoeff hpf_coef;
   struct _zorXeqApiCoeff xeq_coef;
-  int32_t reserved[52];  // the engine's own: the library neither reads nor writes these words
+  int32_t reserved[52];  ///< the engine's own: the library neither reads nor writes these words
   struct _zorOnyxFaderInfo fader_info;
 };

@@ -1,5 +1,3 @@
-// Loudness and speaker enhancement controls, between com.zor.tech.Contour2 and
-// _zorContour2ApiCtrl. The limiter is not carried, in either direction.
 #pragma once
 
 #include "ZorEngineStructs.h"
@@ -7,18 +5,25 @@
 #include "ZorcsExport.h"
 #include "techContour2.pb.h"
 
+/// Loudness and speaker enhancement controls, ten scalars and two lists of seven, between
+/// com.zor.tech.Contour2 and _zorContour2ApiCtrl. The limiter is not carried, in either direction.
 class ZORCS_EXPORT ZorPbTechContour2 : public ZorPbBase {
  public:
+  /// Loads msg as init does.
   explicit ZorPbTechContour2(const com::zor::tech::Contour2* msg);
+  /// Loads ctrl as init does.
   explicit ZorPbTechContour2(const _zorContour2ApiCtrl& ctrl);
+  /// Deletes the held message.
   ~ZorPbTechContour2() override;
 
-  // Takes the first seven values of htest and of ref_htest. A source with fewer is a caller error,
-  // because the engine takes seven; those that are there are loaded.
+  /// Loads a copy of msg. \copydetails load_message
+  ///
+  /// A msg with fewer than seven values of htest or of ref_htest is a caller error, because the
+  /// engine takes seven; those that are there are loaded.
   void init(const com::zor::tech::Contour2* msg);
-  // The built message holds exactly seven values in each of the two lists.
+  /// Builds a message from ctrl. \copydetails load_struct
   void init(const _zorContour2ApiCtrl& ctrl);
 
-  // Array entries past the held message's lists keep what the caller left there.
+  /// Writes the held message into ctrl. \copydetails write_struct
   void populateStruct(_zorContour2ApiCtrl& ctrl);
 };
