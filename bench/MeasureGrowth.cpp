@@ -11,8 +11,8 @@ void addGrowth(const std::vector<Input>& tables, Table& table) {
   const auto to = std::make_shared<Engine>();
   for (const Input& input : tables) {
     const Input* const in = &input;
-    table.measure(in->name, "bare parse", [in](benchmark::State& state) {
-      for (auto _ : state) roads::bareParse(in->bytes);
+    table.measure(in->name, "parse", [in](benchmark::State& state) {
+      for (auto _ : state) roads::parse(in->bytes);
     });
     table.measure(in->name, "message to struct", [in, to](benchmark::State& state) {
       for (auto _ : state) roads::messageToStruct(in->message, *to);
@@ -25,8 +25,8 @@ void addGrowth(const std::vector<Input>& tables, Table& table) {
                     for (auto _ : state)
                       benchmark::DoNotOptimize(kProtozero.toStruct(in->bytes, *to));
                   });
-    table.compare(in->name, "message to struct", "bare parse");
-    table.compare(in->name, "bytes to struct", "bare parse");
+    table.compare(in->name, "message to struct", "parse");
+    table.compare(in->name, "bytes to struct", "parse");
     table.compare(in->name, "bytes to struct", "bytes to struct, protozero by hand");
   }
 }

@@ -19,7 +19,8 @@ void addHeap(const Input& input, Table& table) {
   };
   count("struct to message", [&] { roads::structToMessage(*input.engine); });
   count("message to struct", [&] { roads::messageToStruct(input.message, *to); });
-  count("bare parse", [&] { roads::bareParse(input.bytes); });
+  count("bare parse", [&] { plainParse(input.bytes); });
+  count("parse", [&] { roads::parse(input.bytes); });
   count("bytes to struct", [&] { roads::bytesToStruct(input.bytes, *to); });
   count("struct to bytes", [&] { roads::structToBytes(*input.engine, bytes.data()); });
   count("check: findings", [&] { ZorPbCheck::findings(input.message); });

@@ -58,7 +58,7 @@ std::size_t roads::structToBytes(const Engine& from, uint8_t* to) {
   return static_cast<std::size_t>(wrapper.msg_->GetCachedSize());
 }
 
-void roads::bareParse(const std::string& bytes) {
+void roads::parse(const std::string& bytes) {
   Postmix message;
   if (!message.ParsePartialFromString(bytes)) fail("the bytes of an input are no message");
   benchmark::DoNotOptimize(message);

@@ -20,7 +20,7 @@ void bytesToStruct(const std::string& bytes, Engine& to);
 // Returns the number of bytes; to has room for kBytesCapacity.
 std::size_t structToBytes(const Engine& from, uint8_t* to);
 
-void bareParse(const std::string& bytes);
+void parse(const std::string& bytes);
 // The parse, and the runtime's own copy of what it gave: a wrapper has to hold a copy, too.
 void parseAndCopy(const std::string& bytes);
 

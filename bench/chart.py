@@ -7,7 +7,7 @@ from xml.sax.saxutils import escape
 
 INPUTS = ("headphones", "random")
 GROUPS = (
-    ("bytes to struct", ("bytes to struct", "bare parse", "bytes to struct, protozero by hand",
+    ("bytes to struct", ("bytes to struct", "parse", "bare parse", "bytes to struct, protozero by hand",
                          "bytes to struct, protobuf-c and copy", "bytes to struct, nanopb")),
     ("struct to bytes", ("struct to bytes", "struct to bytes, protozero by hand",
                          "struct to bytes, protobuf-c and copy", "struct to bytes, nanopb")),

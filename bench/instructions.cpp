@@ -27,7 +27,7 @@ int main(int argc, char** argv) {
       {"message-to-struct", [&] { zorbench::roads::messageToStruct(input.message, *to); }},
       {"bytes-to-struct", [&] { zorbench::roads::bytesToStruct(input.bytes, *to); }},
       {"struct-to-bytes", [&] { zorbench::roads::structToBytes(*input.engine, bytes.data()); }},
-      {"bare-parse", [&] { zorbench::roads::bareParse(input.bytes); }},
+      {"parse", [&] { zorbench::roads::parse(input.bytes); }},
   };
   const auto road = all.find(argc == 3 ? argv[2] : "");
   if (road == all.end()) {

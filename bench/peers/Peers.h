@@ -32,4 +32,8 @@ extern const Peer kNanopb;
 // Generated with allocated lists, then copied. It allocates through operator new.
 extern const Peer kProtobufC;
 
+// The parse of a post-mix message by what the protobuf compiler generates, unchanged; false when
+// the bytes are no message. The floor of every road that goes by protobuf.
+bool plainParse(const std::string& bytes);
+
 }  // namespace zorbench
