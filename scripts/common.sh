@@ -23,7 +23,10 @@ need() {
       | grep -qx installed || missing+=("$package")
   done
   [ ${#missing[@]} -gt 0 ] || return 0
-  [ "$(id -u)" -eq 0 ] || sudo=(sudo)
+  if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || { echo "To be installed by root: ${missing[*]}" >&2; exit 1; }
+    sudo=(sudo)
+  fi
   say "Installing ${missing[*]}"
   "${sudo[@]}" apt-get update -qq
   "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive \
